@@ -1,0 +1,25 @@
+# room(NAME [PATH folder] [LINKS room...])
+#
+# One static library for one folder of the tree. Its headers are reached as "folder/header.h", and only by targets
+# that link the room: each room has an include root of its own in the build folder, which holds nothing but a link
+# to that room, so an include that the arrows of the architecture don't allow fails to build.
+function(room name)
+  cmake_parse_arguments(ROOM "" "PATH" "LINKS" ${ARGN})
+  if(NOT ROOM_PATH)
+    set(ROOM_PATH ${name})
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${ROOM_PATH}/*.cpp)
+  set(root ${CMAKE_BINARY_DIR}/rooms/${name})
+  cmake_path(GET ROOM_PATH PARENT_PATH parent)
+  file(MAKE_DIRECTORY ${root}/${parent})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${ROOM_PATH} ${root}/${ROOM_PATH} SYMBOLIC)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    set(scope PUBLIC)
+  else()
+    add_library(${name} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(${name} ${scope} ${root})
+  target_link_libraries(${name} ${scope} ${ROOM_LINKS})
+endfunction()

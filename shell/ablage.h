@@ -1,0 +1,193 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/items.h"
+#include "shell/meldungen.h"
+
+namespace polarkreis {
+
+/// Tells whether a file of the watched folder may have changed. Without one the file store asks the
+/// file system for each file's stamp; with one it asks only after a change.
+class Aenderungswache {
+ public:
+  virtual ~Aenderungswache() = default;
+  /// True if anything in the folder may have changed since the last call (also when in doubt).
+  virtual bool vielleicht_geaendert() = 0;
+};
+
+/// What identifies one state of a file: a copy made of it may be used while this stays equal.
+struct Dateistand {
+  bool da = false;
+  std::uint64_t geraet = 0;
+  std::uint64_t inode = 0;
+  std::int64_t groesse = 0;
+  std::int64_t geaendert_ns = 0;  // time of the last change of content
+  std::int64_t status_ns = 0;     // time of the last change of the inode
+  bool operator==(const Dateistand&) const = default;
+};
+
+/// Whether a saved file must survive a power failure at once, or can be made again (results of a
+/// run).
+enum class Haltbarkeit { sicher, wiederholbar };
+
+/// The file store: every file of the program is opened here.
+///
+/// A name without "/" and "\" lies in the data folder `Datenordner`; any other name is a path as it
+/// stands, with either sign. The exact spelling is tried first, then any case. Reading never fails:
+/// an absent file gives empty texts. What is written is composed in memory and put in place in one
+/// step when the number is closed; on a failure the old file stays whole, the message goes to
+/// `letzter_fehler` and to the message log, and nothing else is left.
+class Ablage {
+ public:
+  Ablage(std::string datenordner, Meldungen& meldungen);
+  ~Ablage();
+  Ablage(const Ablage&) = delete;
+  Ablage& operator=(const Ablage&) = delete;
+
+  /// The data folder, without a trailing separator.
+  std::string Datenordner;
+
+  /// --- Numbered files. Opening a number that is open closes it first.
+
+  /// Opens for reading items. An absent file is created empty where `anlegen` holds and the folder
+  /// allows it.
+  void Datei_Lesen(std::string_view name, int nummer, bool anlegen = true);
+  /// Opens for output; the folder is made if it is absent.
+  void Datei_Schreiben(std::string_view name, int nummer, Haltbarkeit = Haltbarkeit::sicher);
+  /// Opens for output behind what the file holds.
+  void Datei_Anhaengen(std::string_view name, int nummer, Haltbarkeit = Haltbarkeit::sicher);
+  /// Opens for fixed records of `laenge` bytes; 0 means 128.
+  void Datei_Satz(std::string_view name, int nummer, int laenge);
+  /// Closes the number; false if what was written could not be put in place (see `letzter_fehler`).
+  bool Datei_Schliessen(int nummer);
+  /// Closes every number; false if one of them failed.
+  bool alle_schliessen();
+
+  /// True when the number has no item left, or is not open for reading.
+  bool Ende(int nummer) const;
+  /// The next item, or the empty text at the end.
+  std::string Eingabe(int nummer);
+  /// The next item into `target`; at the end `target` stays as it was and the result is false.
+  bool Eingabe(int nummer, std::string& target);
+  /// One line of quoted items.
+  void Ausgabe(int nummer, std::initializer_list<std::string_view> items);
+  /// Text as it stands, behind what the number holds so far.
+  void Ausgabe_Text(int nummer, std::string_view text);
+  /// Record n (from 1): bytes as they stand in the file, blanks where the file is too short.
+  /// Writing pads with blanks, cuts at the record length, and grows the file with blank records.
+  std::string Satz_Lesen(int nummer, int n);
+  void Satz_Schreiben(int nummer, int n, std::string_view text);
+
+  /// --- Whole files.
+
+  /// The content as UTF-8, or nothing if the file is absent or can't be read (a folder, no
+  /// permission): the message log then tells why.
+  std::optional<std::string> lies_ganz(std::string_view name);
+  /// Puts `inhalt` in place in one step; false on a failure, and the old file is as it was. A
+  /// read-only target is refused, a link stays a link, and a name that stands in another case is
+  /// the target.
+  bool schreib_ganz(std::string_view name, std::string_view inhalt,
+                    Haltbarkeit = Haltbarkeit::sicher);
+  /// Removes the file. The read-only mark is cleared first. False, and the fixed message in
+  /// `letzter_fehler` (line end + "Can not delete/overwrite file:   - " + name + " - "), if it
+  /// can't be removed.
+  bool Datei_Loeschen(std::string_view name);
+  /// Size in bytes; 0 for an absent file.
+  std::int64_t Dateigroesse(std::string_view name) const;
+  /// There and not of 0 bytes.
+  bool vorhanden(std::string_view name) const { return Dateigroesse(name) > 0; }
+  /// Names (no paths) of the files of a folder whose end is `endung` in any case, sorted; empty
+  /// `ordner` is the data folder. Hidden files are not listed.
+  std::vector<std::string> liste(std::string_view ordner, std::string_view endung) const;
+  /// The path that the name stands for: an existing file's real spelling, or the path where it
+  /// would be made.
+  std::string pfad(std::string_view name) const;
+
+  /// Why the last writing or deleting failed; empty after a success.
+  const std::string& letzter_fehler() const { return letzter_fehler_; }
+  Meldungen& meldungen() { return meldungen_; }
+
+  /// --- Parsed copies of files (see `Dateikopie`).
+
+  Dateistand stand(std::string_view name) const;
+  /// A number that stays the same as long as no file needs to be checked again. Outside a
+  /// `Schrittfolge` each call gives a new one.
+  std::uint64_t pruefmarke();
+  /// Takes the watch over; it must watch the data folder.
+  void setze_wache(std::unique_ptr<Aenderungswache> wache);
+  /// Switch of the benchmark: every use parses its file anew.
+  bool immer_neu_lesen = false;
+
+ private:
+  friend class Schrittfolge;
+  struct Nummer;
+  Meldungen& meldungen_;
+  std::string letzter_fehler_;
+  std::map<int, std::unique_ptr<Nummer>> nummern_;
+  std::unique_ptr<Aenderungswache> wache_;
+  std::uint64_t marke_ = 0;
+  int schrittfolgen_ = 0;
+};
+
+/// While one lives, files count as unchanged between two calls of `naechster`: a step of the run,
+/// or one call from outside. An outer one wins: inside it an inner one's beginning checks nothing.
+class Schrittfolge {
+ public:
+  explicit Schrittfolge(Ablage& ablage);
+  ~Schrittfolge();
+  Schrittfolge(const Schrittfolge&) = delete;
+  Schrittfolge& operator=(const Schrittfolge&) = delete;
+  void naechster();
+
+ private:
+  Ablage& ablage_;
+};
+
+/// A parsed copy of one file, used as long as the file is unchanged; no result may depend on it. A
+/// file that changed within the clock's grain before it was read is parsed again at the next check.
+template <class T>
+class Dateikopie {
+ public:
+  /// The file's content as `lesen(std::optional<std::string>&&)` makes it; called again when the
+  /// file, or the name, is another.
+  template <class Lesen>
+  const T& hol(Ablage& ablage, const std::string& name, Lesen&& lesen) {
+    const std::uint64_t marke = ablage.pruefmarke();
+    if (marke == marke_ && name == name_ && !ablage.immer_neu_lesen) return inhalt_;
+    const Dateistand neu = ablage.stand(name);
+    if (ablage.immer_neu_lesen || name != name_ || neu != stand_ || !verlaesslich_) {
+      inhalt_ = lesen(ablage.lies_ganz(name));
+      name_ = name;
+      stand_ = neu;
+      verlaesslich_ = alt_genug(neu);
+    }
+    marke_ = marke;
+    return inhalt_;
+  }
+
+ private:
+  static bool alt_genug(const Dateistand& stand);
+  T inhalt_{};
+  std::string name_;
+  Dateistand stand_;
+  std::uint64_t marke_ = 0;
+  bool verlaesslich_ = false;
+};
+
+/// True if the file's last change lies further back than the grain of the file system's clock.
+bool laenger_unveraendert(const Dateistand& stand);
+
+template <class T>
+bool Dateikopie<T>::alt_genug(const Dateistand& stand) {
+  return laenger_unveraendert(stand);
+}
+
+}  // namespace polarkreis
