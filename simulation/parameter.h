@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "shell/ablage.h"
+
+namespace polarkreis {
+
+/// "JMapOpt.dat": the pressure differences of the lowest-condensing-pressure rule, bar. Empty items
+/// have their defaults "7", "3", "1", "1".
+struct Druckdifferenzen {
+  std::array<std::string, 4> werte = {"7", "3", "1", "1"};
+  double thermostatisch() const;  ///< needed by a thermostatic expansion valve
+  double andere() const;          ///< needed by the other valve kinds
+  double leitung() const;         ///< loss of the liquid line
+  double verteiler() const;       ///< loss of the distributor
+};
+Druckdifferenzen JMapOpt_lesen(std::string&& text);
+bool JMapOpt_schreiben(Ablage& ablage, const Druckdifferenzen& werte);
+
+/// "SubAct.dat": eleven items; the run takes items 2 to 4, the dialog edits the first seven, the
+/// last four are kept.
+struct Zusatzwerte {
+  static constexpr int Itemzahl = 11;
+  std::array<std::string, Itemzahl> werte;
+  double Ueberhitzung_Zusatz() const;  ///< item 2, K
+  double Unterkuehlung() const;        ///< item 3, K
+  double dT_Innen_WT() const;          ///< item 4, K
+};
+Zusatzwerte SubAct_lesen(std::string&& text);
+bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte);
+/// Creates "SubAct.dat" from the start values of "Armstd.rdm" where it is missing or empty: its
+/// records 24 to 26 give items 1 to 3, records 33 to 35 items 4 to 6; for the run mode "MonoF" the
+/// list of values is written twice.
+void SubAct_sicherstellen(Ablage& ablage, std::string_view modul);
+
+}  // namespace polarkreis
