@@ -52,12 +52,15 @@ class Klima {
   std::string Stadt;          ///< the city
   std::string Monat_aktuell;  ///< a month name exactly as it stands in the caption table
 
-  /// Name of the city file of `land`, which is padded with "_" to 8 characters in place.
+  /// Name of the city file of `land`, which is padded with "_" to 8 characters in place; a blank
+  /// one stays and names "AC_CITY.DAT", as "Germany" in any case does.
   static std::string Klima_Dateiname(std::string& land);
-  /// One number of the city out of the file of `Land`, or the humidity of the current month
-  /// (selector 8); empty for an unknown selector or month, 0 figures for a city that isn't found.
+  /// One number of the city out of the file of `Land` (see `Klimawahl`), or the humidity of the
+  /// current month in % (selector 8). Empty for an unknown selector or month and for a city that
+  /// isn't found; only the humidity takes 0 % as that city's summer figure. `Land` is padded.
   double Klima_Wert(std::string_view stadt, int selektor);
-  /// All figures of the city, or nothing if the table doesn't hold it.
+  /// All figures of the city, or nothing if the table doesn't hold it. Names are compared trimmed,
+  /// with case; the first of equal names counts.
   std::optional<Klimasatz> satz(std::string_view stadt);
 
   /// The countries in file order, up to the first blank line; the cities of `Land` in file order
@@ -67,12 +70,26 @@ class Klima {
 
   /// `Land` without the "_" at its end, as people write it.
   static std::string land_anzeige(std::string_view land);
-  /// Equal countries, "_" at the end ignored.
+  /// Equal countries: "_" at the end, blanks around and case ignored.
   static bool gleiches_land(std::string_view a, std::string_view b);
 
  private:
+  /// A city file as parsed: its records in file order, at most 50, those with a blank name too.
+  struct Stadt_mit_Satz {
+    std::string name;
+    Klimasatz satz;
+  };
+  using Stadttabelle = std::vector<Stadt_mit_Satz>;
+
+  static Stadttabelle zerlegt(std::string_view inhalt);
+  static Klimasatz satz_aus(const std::array<std::string, Stadtfelder>& felder);
+  const Stadttabelle& tabelle();
+  const Stadt_mit_Satz* suche(std::string_view stadt);
+  double Feuchte_Monat(double F) const;
+
   Ablage& ablage_;
   const Captions& captions_;
+  Dateikopie<Stadttabelle> kopie_;
 };
 
 /// The editor of the climate tables: 138 countries, 50 cities with their ten texts.
@@ -81,26 +98,31 @@ class editcity {
   editcity(Ablage& ablage, const Captions& captions, Klima& klima);
 
   using Stadtzeile = std::array<std::string, Klima::Stadtfelder>;
-  std::array<Stadtzeile, Klima::Staedtezahl> Spread1;
-  std::array<std::string, Klima::Laenderzahl> CountrySp;
-  int Rueckgabe = 0;  ///< 3 after OK
+  std::array<Stadtzeile, Klima::Staedtezahl> Spread1;     ///< texts as typed, unchecked
+  std::array<std::string, Klima::Laenderzahl> CountrySp;  ///< texts as typed, in file order
+  int Rueckgabe = 0;                                      ///< 3 after OK
 
   /// Reads the city file of the current country, up to the first record whose first three items are
   /// blank, and the country list.
   void oeffnen();
-  /// Takes the country of the row (from 1) and reads its cities; unsaved edits of the cities are
-  /// lost.
+  /// Takes the country of the row (1 to 138; any other does nothing) and reads its cities; unsaved
+  /// edits of the cities are lost.
   void Command3D1(int zeile);
-  /// Writes the cities of the current country and the country list; false if a file could not be
-  /// written.
+  /// Writes the cities of the current country (not where it is blank) and the country list; false
+  /// if a file could not be written, the other one is written all the same.
   bool SPS_Sich();
-  /// As `SPS_Sich`, and sets the return mark.
+  /// As `SPS_Sich`, and sets the return mark whatever came of it.
   bool OKbutt();
-  /// Headings of the ten columns.
+  /// Headings of the ten columns; the unit of temperature without brackets, as "°C".
   std::array<std::string, Klima::Stadtfelder> Spaltenkoepfe(
       std::string_view temperatureinheit) const;
 
  private:
+  void lies_Staedte();
+  void lies_Laender();
+  bool schreib_Staedte();
+  bool schreib_Laender();
+
   Ablage& ablage_;
   const Captions& captions_;
   Klima& klima_;

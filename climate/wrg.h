@@ -32,13 +32,20 @@ class WRG {
   std::array<std::string, 4> Text11_14;      ///< prices of the four fuels (`Text11` to `Text14`)
   std::string WirkGK, Verlust;
   std::string Qheiz, T_vorl;  ///< project fields `Q_heat` and `T_heat`, copied by the caller on OK
+  /// The file with the CO2 figure of electricity; a path where it doesn't lie in the data folder.
+  std::string Energiedatei = "energk.dat";
 
+  /// Reads "SPEZBK.DAT" into the fields; an empty item, and every item of a missing file, gives its
+  /// default (opening creates an absent file empty, see `Ablage`).
   void WRG_laden();
+  /// Writes all items: the price of the chosen fuel and its figures of the fuel table included
+  /// (empty for none of the four). False if the file could not be written.
   bool WRG_speichern();
   /// Heating value in kWh per unit (`Welche` 1) or CO2 in kg per unit (2) of a fuel, 1 to 4; empty
-  /// for any other.
+  /// for any other. Electricity's CO2 figure is the fifth item of `Energiedatei`, .58 if empty.
   double Heizwert(int Brennstoff, int Welche);
-  /// Proposals in %, put into `WirkGK` and `Verlust`; the second also runs the first.
+  /// Proposals in %, put into `WirkGK` and `Verlust`; the second also runs the first. The
+  /// condensing boiler's 105 stands as proposed: it refers to the lower heating value.
   double WirkGK_vorschlag();
   double Verlust_vorschlag();
   /// A changed selection.
@@ -50,10 +57,17 @@ class WRG {
 
   /// Creates "SPEZBK.DAT" with its defaults where it is missing or empty.
   void sicherstellen();
-  /// Reads the run's figures.
+  /// Reads the run's figures; the fields above stay as they are.
   Heizdaten heizdaten();
 
  private:
+  static constexpr std::size_t Itemzahl = 17;
+  using Items = std::array<std::string, Itemzahl>;
+  Items standard() const;
+  Items lies() const;
+  Items aus_Feldern();
+  bool schreib(const Items& items);
+
   Ablage& ablage_;
   const Captions& captions_;
 };

@@ -1,0 +1,165 @@
+#include "climate/klima.h"
+
+#include <algorithm>
+
+#include "climate/lesen.h"
+#include "shell/items.h"
+#include "shell/text.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::size_t Namenslaenge = 8;
+constexpr std::string_view Standarddatei = "AC_CITY.DAT";
+constexpr std::string_view Standardland = "GERMANY_";
+constexpr std::string_view Laenderdatei = "COUNTRY.DAT";
+constexpr double Feuchte_Winter = 80;
+
+enum Feld {
+  F_Stadt,
+  F_T_Sommer_hoch,
+  F_Feuchte_Sommer_hoch,
+  F_T_Diff,
+  F_T_Sommer_tief,
+  F_Feuchte_Sommer_tief,
+  F_T_Winter_hoch,
+  F_T_Winter_tief,
+  F_Hoehe,
+  F_Breite
+};
+
+bool blank(std::string_view text) {
+  return getrimmt(text).empty();
+}
+
+}  // namespace
+
+std::string Klima::Klima_Dateiname(std::string& land) {
+  if (blank(land)) return std::string(Standarddatei);
+  const std::size_t laenge = zeichenzahl(land);
+  if (laenge < Namenslaenge) land.append(Namenslaenge - laenge, '_');
+  const std::string_view kopf = erste_zeichen(land, Namenslaenge);
+  if (gross(kopf) == Standardland) return std::string(Standarddatei);
+  return std::string(kopf) + ".DAT";
+}
+
+std::string Klima::land_anzeige(std::string_view land) {
+  while (land.ends_with('_')) land.remove_suffix(1);
+  return std::string(land);
+}
+
+bool Klima::gleiches_land(std::string_view a, std::string_view b) {
+  return gleich(land_anzeige(getrimmt(a)), land_anzeige(getrimmt(b)));
+}
+
+Klimasatz Klima::satz_aus(const std::array<std::string, Stadtfelder>& felder) {
+  Klimasatz satz;
+  satz.T_Sommer_hoch = Wert(felder[F_T_Sommer_hoch]);
+  satz.Feuchte_Sommer_hoch = Wert(felder[F_Feuchte_Sommer_hoch]);
+  satz.T_Diff_Tag_Nacht = Wert(felder[F_T_Diff]);
+  satz.T_Sommer_tief = Wert(felder[F_T_Sommer_tief]);
+  satz.Feuchte_Sommer_tief = Wert(felder[F_Feuchte_Sommer_tief]);
+  satz.T_Winter_hoch = Wert(felder[F_T_Winter_hoch]);
+  satz.T_Winter_tief = Wert(felder[F_T_Winter_tief]);
+  satz.Hoehe = Wert(felder[F_Hoehe]);
+  std::string_view breite = links_getrimmt(felder[F_Breite]);
+  satz.suedlich = breite.starts_with('S') || breite.starts_with('s');
+  if (satz.suedlich) breite.remove_prefix(1);
+  satz.Breite = Wert(breite);
+  return satz;
+}
+
+Klima::Stadttabelle Klima::zerlegt(std::string_view inhalt) {
+  Stadttabelle tabelle;
+  ItemLeser leser(inhalt);
+  while (!leser.ende() && tabelle.size() < Staedtezahl) {
+    std::array<std::string, Stadtfelder> felder;
+    for (std::string& feld : felder) feld = leser.lies();
+    tabelle.push_back({std::string(getrimmt(felder[F_Stadt])), satz_aus(felder)});
+  }
+  return tabelle;
+}
+
+const Klima::Stadttabelle& Klima::tabelle() {
+  const std::string datei = Klima_Dateiname(Land);
+  return kopie_.hol(ablage_, datei, [&](std::optional<std::string>&& inhalt) {
+    if (!inhalt) leer_anlegen(ablage_, datei);
+    return zerlegt(inhalt.value_or(std::string()));
+  });
+}
+
+const Klima::Stadt_mit_Satz* Klima::suche(std::string_view stadt) {
+  const Stadttabelle& staedte = tabelle();
+  const auto treffer = std::ranges::find(staedte, getrimmt(stadt), &Stadt_mit_Satz::name);
+  return treffer == staedte.end() ? nullptr : &*treffer;
+}
+
+std::optional<Klimasatz> Klima::satz(std::string_view stadt) {
+  const Stadt_mit_Satz* gefunden = suche(stadt);
+  if (!gefunden) return std::nullopt;
+  return gefunden->satz;
+}
+
+double Klima::Feuchte_Monat(double F) const {
+  // Share of the way from the stored summer figure to the winter's 80 %, January first.
+  static constexpr std::array<double, 12> Anteil{1, .86, .67, .5, .34, .17,
+                                                 0, .17, .34, .5, .67, .86};
+  constexpr int Juli = 7;
+  if (Monat_aktuell.empty()) return leer;
+  for (int m = 1; m <= 12; ++m) {
+    if (captions_.monat(m) != Monat_aktuell) continue;
+    if (m == Juli) return F;
+    const double D = Feuchte_Winter - F;
+    return Int(F + Anteil[static_cast<std::size_t>(m - 1)] * D);
+  }
+  return leer;
+}
+
+double Klima::Klima_Wert(std::string_view stadt, int selektor) {
+  const Stadt_mit_Satz* gefunden = suche(stadt);
+  const Klimawahl wahl{selektor};
+  if (wahl == Klimawahl::Feuchte_Monat)
+    return Feuchte_Monat(gefunden ? gefunden->satz.Feuchte_Sommer_hoch : 0);
+  const Klimasatz satz = gefunden ? gefunden->satz : Klimasatz{};
+  switch (wahl) {
+    case Klimawahl::T_Sommer_hoch:
+      return satz.T_Sommer_hoch;
+    case Klimawahl::T_Winter_tief:
+      return satz.T_Winter_tief;
+    case Klimawahl::T_Diff_Tag_Nacht:
+      return satz.T_Diff_Tag_Nacht;
+    case Klimawahl::Breite:
+      return satz.Breite;
+    case Klimawahl::T_Sommer_tief:
+      return satz.T_Sommer_tief;
+    case Klimawahl::T_Winter_hoch:
+      return satz.T_Winter_hoch;
+    case Klimawahl::Hoehe:
+      return satz.Hoehe;
+    case Klimawahl::Feuchte_Sommer_tief:
+      return satz.Feuchte_Sommer_tief;
+    case Klimawahl::Feuchte_Monat:
+      break;
+  }
+  return leer;
+}
+
+std::vector<std::string> Klima::laender() {
+  std::vector<std::string> liste;
+  const std::string inhalt = Datei_Inhalt(ablage_, std::string(Laenderdatei));
+  ItemLeser leser(inhalt);
+  std::string land;
+  while (liste.size() < Laenderzahl && leser.lies(land) && !blank(land)) liste.push_back(land);
+  return liste;
+}
+
+std::vector<std::string> Klima::staedte() {
+  if (blank(Land)) Land = Standardland;
+  std::vector<std::string> liste;
+  for (const Stadt_mit_Satz& stadt : tabelle())
+    if (!stadt.name.empty()) liste.push_back(stadt.name);
+  return liste;
+}
+
+}  // namespace polarkreis
