@@ -5,6 +5,7 @@
 #include "climate/lesen.h"
 #include "shell/items.h"
 #include "shell/text.h"
+#include "shell/wert.h"
 
 namespace polarkreis {
 
