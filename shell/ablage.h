@@ -26,6 +26,8 @@ class Aenderungswache {
 /// What identifies one state of a file: a copy made of it may be used while this stays equal.
 struct Dateistand {
   bool da = false;
+  bool bewacht = false;  // a watch of the data folder sees each change: the file (or the absence of
+                         // one) lies there itself, and neither a link nor a second name leads to it
   std::uint64_t geraet = 0;
   std::uint64_t inode = 0;
   std::int64_t groesse = 0;
@@ -118,10 +120,15 @@ class Ablage {
   /// --- Parsed copies of files (see `Dateikopie`).
 
   Dateistand stand(std::string_view name) const;
-  /// A number that stays the same as long as no file needs to be checked again. Outside a
-  /// `Schrittfolge` each call gives a new one.
-  std::uint64_t pruefmarke();
-  /// Takes the watch over; it must watch the data folder.
+  /// Numbers that stay the same as long as no file needs to be checked again: within a
+  /// `Schrittfolge` for a step, while outside each call gives new ones.
+  struct Pruefmarken {
+    std::uint64_t schritt;  // for any file
+    std::uint64_t wache;    // for a file that is `bewacht`: with a watch, new only after a change
+    std::uint64_t fuer(const Dateistand& stand) const { return stand.bewacht ? wache : schritt; }
+  };
+  Pruefmarken pruefmarken();
+  /// Takes the watch over; it must watch the data folder, and be set anew when `Datenordner` is.
   void setze_wache(std::unique_ptr<Aenderungswache> wache);
   /// Switch of the benchmark: every use parses its file anew.
   bool immer_neu_lesen = false;
@@ -129,11 +136,19 @@ class Ablage {
  private:
   friend class Schrittfolge;
   struct Nummer;
+  Nummer* offen(int nummer) const;
+  Nummer& oeffne(std::string_view name, int nummer, bool text);
+  bool lege_ab(Nummer& nummer);
+  bool misslungen(const std::string& pfad, std::string text);
+  void neuer_schritt();
+  void alles_pruefen();
+
   Meldungen& meldungen_;
   std::string letzter_fehler_;
   std::map<int, std::unique_ptr<Nummer>> nummern_;
   std::unique_ptr<Aenderungswache> wache_;
-  std::uint64_t marke_ = 0;
+  std::uint64_t marken_ = 0;  // marks given so far: no two of them are equal
+  Pruefmarken gueltig_{};
   int schrittfolgen_ = 0;
 };
 
@@ -160,8 +175,8 @@ class Dateikopie {
   /// file, or the name, is another.
   template <class Lesen>
   const T& hol(Ablage& ablage, const std::string& name, Lesen&& lesen) {
-    const std::uint64_t marke = ablage.pruefmarke();
-    if (marke == marke_ && name == name_ && !ablage.immer_neu_lesen) return inhalt_;
+    const Ablage::Pruefmarken marken = ablage.pruefmarken();
+    if (marken.fuer(stand_) == marke_ && name == name_ && !ablage.immer_neu_lesen) return inhalt_;
     const Dateistand neu = ablage.stand(name);
     if (ablage.immer_neu_lesen || name != name_ || neu != stand_ || !verlaesslich_) {
       inhalt_ = lesen(ablage.lies_ganz(name));
@@ -169,7 +184,7 @@ class Dateikopie {
       stand_ = neu;
       verlaesslich_ = alt_genug(neu);
     }
-    marke_ = marke;
+    marke_ = marken.fuer(neu);
     return inhalt_;
   }
 

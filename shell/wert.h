@@ -34,8 +34,8 @@ inline double Int(double value) {
 double Wert(std::string_view text);
 
 /// Number to text: at most 15 significant digits, point as decimal sign, no trailing zeros, never
-/// "-0"; an empty number gives the empty text. Magnitudes from 1e15 up and below 1e-4 may carry an
-/// exponent ("1E+20").
+/// "-0"; an empty number gives the empty text. Magnitudes from 1e15 up and below 1e-5 carry an
+/// exponent ("1E+20", "1.5E-07").
 std::string Zahl_Text(double value);
 
 /// As Zahl_Text, appended to `target` without an allocation of its own: the result file's hot path.

@@ -1,0 +1,49 @@
+#include <cerrno>
+
+#include "shell/ablage.h"
+#include "shell/platte.h"
+#include "shell/text.h"
+
+namespace polarkreis {
+
+std::optional<std::string> Ablage::lies_ganz(std::string_view name) {
+  const std::string wo = pfad(name);
+  std::string bytes;
+  const int fehler = platte::lies(wo, bytes);
+  if (fehler == 0) return als_utf8(std::move(bytes));
+  if (fehler != ENOENT) meldungen_.melde("read", wo, "taken as absent: " + platte::grund(fehler));
+  return std::nullopt;
+}
+
+bool Ablage::schreib_ganz(std::string_view name, std::string_view inhalt, Haltbarkeit haltbarkeit) {
+  const std::string wo = pfad(name);
+  int fehler = platte::mache_ordner(platte::ort(wo).ordner);
+  if (fehler == 0) fehler = platte::ersetze(wo, inhalt, haltbarkeit == Haltbarkeit::sicher);
+  if (fehler != 0) return misslungen(wo, platte::grund(fehler));
+  letzter_fehler_.clear();
+  alles_pruefen();
+  return true;
+}
+
+bool Ablage::Datei_Loeschen(std::string_view name) {
+  const std::string wo = pfad(name);
+  const int fehler = platte::loesche(wo);
+  if (fehler == 0) {
+    letzter_fehler_.clear();
+    alles_pruefen();
+    return true;
+  }
+  meldungen_.melde("delete", wo, "left as it was: " + platte::grund(fehler));
+  letzter_fehler_ = "\r\nCan not delete/overwrite file:   - ";
+  letzter_fehler_ += name;
+  letzter_fehler_ += " - ";
+  return false;
+}
+
+bool Ablage::misslungen(const std::string& pfad, std::string text) {
+  letzter_fehler_ = "Can not write \"" + pfad + "\": " + text;
+  meldungen_.melde("write", pfad, "not written: " + text);
+  return false;
+}
+
+}  // namespace polarkreis

@@ -1,0 +1,87 @@
+#include "shell/captions.h"
+
+#include "shell/text.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::array<StammForm, Stammzahl> Formen = {{{"VerbCapt", 24},
+                                                      {"SoleCapt", 28},
+                                                      {"Caption", 249},
+                                                      {"HXCapt", 20},
+                                                      {"AirCoCap", 118},
+                                                      {"JMapCap", 67},
+                                                      {"heatcap", 56},
+                                                      {"DrawCap", 22},
+                                                      {"PEDcap", 30}}};
+
+constexpr std::array<std::string_view, 21> Codes = {
+    "GER", "ENG", "FRA", "ESP", "ITA", "POR", "NDL", "SWE", "NOR", "DAN", "POL",
+    "CZH", "HUN", "SVK", "ROM", "RUS", "BUL", "GRE", "TRK", "TWA", "ARA"};
+
+constexpr int Monate = 12;
+const std::string leerer_text;
+
+}  // namespace
+
+const StammForm& stammform(Stamm stamm) {
+  return Formen[static_cast<std::size_t>(stamm)];
+}
+
+std::span<const std::string_view> Sprachen() {
+  return Codes;
+}
+
+void Captions::Captions_Laden() {
+  for (std::size_t i = 0; i < Stammzahl; ++i) texte_[i] = lade(static_cast<Stamm>(i), Sprache);
+}
+
+const std::string& Captions::text(Stamm stamm, int zeile) const {
+  const Zeilen& zeilen = texte_[static_cast<std::size_t>(stamm)];
+  const bool da = zeile >= 1 && static_cast<std::size_t>(zeile) <= zeilen.size();
+  return da ? zeilen[static_cast<std::size_t>(zeile - 1)] : leerer_text;
+}
+
+const std::string& Captions::monat(int m) const {
+  return m >= 1 && m <= Monate ? text(Stamm::AirCoCap, static_cast<int>(AirCoCap::Januar) + m - 1)
+                               : leerer_text;
+}
+
+Captions::Zeilen Captions::lade(Stamm stamm, std::string_view sprache) const {
+  const StammForm& form = stammform(stamm);
+  Zeilen zeilen(static_cast<std::size_t>(form.zeilen));
+  // A language comes from files and arguments: it must not lead out of the data folder.
+  if (sprache.empty() || sprache.find_first_of("/\\") != std::string_view::npos) return zeilen;
+  const std::string inhalt =
+      ablage_.lies_ganz(std::string(form.name) + "." + std::string(sprache)).value_or("");
+  ItemLeser leser(inhalt);
+  for (std::string& zeile : zeilen)
+    if (!leser.lies(zeile)) break;
+  return zeilen;
+}
+
+std::string Captions::Caption_Uebersetzen(Stamm stamm, std::string_view von, std::string_view nach,
+                                          std::string_view text) const {
+  std::vector<int> alle(static_cast<std::size_t>(stammform(stamm).zeilen));
+  for (std::size_t i = 0; i < alle.size(); ++i) alle[i] = static_cast<int>(i) + 1;
+  return Caption_Uebersetzen(stamm, alle, von, nach, text);
+}
+
+std::string Captions::Caption_Uebersetzen(Stamm stamm, std::span<const int> zeilen,
+                                          std::string_view von, std::string_view nach,
+                                          std::string_view text) const {
+  if (getrimmt(text).empty()) return std::string(text);
+  const Zeilen alte = lade(stamm, von);
+  for (int zeile : zeilen) {
+    if (zeile < 1 || static_cast<std::size_t>(zeile) > alte.size()) continue;
+    const auto i = static_cast<std::size_t>(zeile - 1);
+    if (!gleich(alte[i], text)) continue;
+    // Where the new language has no such line, the old word is better than none.
+    const Zeilen neue = lade(stamm, nach);
+    return getrimmt(neue[i]).empty() ? std::string(text) : neue[i];
+  }
+  return std::string(text);
+}
+
+}  // namespace polarkreis
