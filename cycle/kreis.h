@@ -11,7 +11,7 @@ namespace polarkreis {
 /// sequence.
 class Kreis {
  public:
-  explicit Kreis(Kaeltemittel& km) : km(km) {}
+  explicit Kreis(Kaeltemittel& kaeltemittel) : km(kaeltemittel) {}
 
   Kaeltemittel& km;
 
@@ -31,7 +31,7 @@ class Kreis {
   void KreisPunkt(double t0, double tc, double t_s, double& dT_sc);
 
   /// Discharge temperature in K. `size` compressor power in kW, pressures in bar absolute, `T_s`
-  /// inlet in K. Sets `T_is`. Not finite if it fails.
+  /// inlet in K. Sets `T_is`. A part that fails counts as 0, as with `p_d` below `p_s`.
   double Verd_Endtemp(double size, double p_s, double p_d, double T_s, double kappa);
 
   /// Motor factor for a compressor power in kW, at most 1.52.

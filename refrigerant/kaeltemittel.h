@@ -43,6 +43,8 @@ class Kaeltemittel {
   bool KM_Tabelle_da();
   /// R744 and CO2.
   bool ist_CO2() const;
+  /// True if the designation has this table file: one test for all aliases. ISC_49 shares R413A's.
+  bool hat_Tabelle(std::string_view datei) const;
 
   /// Searches the table for the key (K or bar) and fills the bracket. Mode 0 searches by
   /// temperature; 1 by dew pressure and 2 by bubble pressure, where `T` and that pressure change
@@ -51,7 +53,18 @@ class Kaeltemittel {
   void Sat_Suchen(double key, int mode);
   /// The value of a column at the key, on the line through the two rows of the bracket; not finite
   /// if it fails.
-  double Sat_Wert(double SatZeile::*column, double key) const;
+  double Sat_Wert(double SatZeile::*column, double key) const {
+    return Sat_Wert_f(column, Sat_f(key));
+  }
+  /// The key's place between the two rows: 0 at `Unten`, 1 at `Oben`, beyond outside; not finite if
+  /// the rows have the same key or one is empty. One search's columns can share it.
+  double Sat_f(double key) const {
+    return (key - z.Klammer.Unten.T) / (z.Klammer.Oben.T - z.Klammer.Unten.T);
+  }
+  /// The value of a column at that place.
+  double Sat_Wert_f(double SatZeile::*column, double f) const {
+    return z.Klammer.Unten.*column + f * (z.Klammer.Oben.*column - z.Klammer.Unten.*column);
+  }
   /// Saturation temperature in °C of an absolute pressure in bar, cut to two decimals. `mode` for a
   /// blend: 177 the mean of both lines, 187 the bubble line, 167 the dew line, any other value the
   /// temperature in K of the liquid that enters the evaporator.
@@ -72,11 +85,20 @@ class Kaeltemittel {
   Ablage& ablage() { return ablage_; }
 
  private:
-  const SatTabelle& tabelle();
+  // The designation's entry, or null; searched for anew only when the designation is another.
+  const KMEintrag* eintrag() const;
+  const SatTabelle& tabelle(const std::string& datei);
   const CO2Daten& co2_daten();
+  SatTreffer suche(double key, int mode);
+  double linie(double p, int mode, double SatZeile::*temperatur, double& f);
+  double mit_eintritt(double p, double t_d, double t_b, double T_eintritt, double& f);
+
   Ablage& ablage_;
+  mutable std::string gesucht_;
+  mutable const KMEintrag* gefunden_ = nullptr;
   Dateikopie<SatTabelle> tabelle_;
   Dateikopie<CO2Daten> co2_;
+  const std::string co2_datei_ = "CO2_sh01.dat";
 };
 
 /// (a + b T + c T² + d T³) * 10^-3
