@@ -1,0 +1,98 @@
+#include "shell/start/start.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "shell/items.h"
+#include "shell/start/version.h"
+#include "shell/text.h"
+#include "simulation/uebersetzen.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::string_view Nicht_schreibbar = "Can not overwrite existing file.";
+constexpr std::string_view Arbeitsprojekt = "Temp_Sim.dat";
+constexpr int Sprache_Item = 23;  // of the working project
+constexpr std::size_t Codelaenge = 3;
+
+bool ist_Ordner(const std::string& pfad) {
+  std::error_code fehler;
+  return std::filesystem::is_directory(pfad, fehler);
+}
+
+std::string ohne_Trenner(std::string ordner) {
+  while (ordner.size() > 1 && (ordner.back() == '/' || ordner.back() == '\\')) ordner.pop_back();
+  return ordner;
+}
+
+// Item n of the working project; empty if it has none.
+std::string Arbeitsprojekt_Item(Ablage& ablage, int nummer) {
+  const std::string text = ablage.lies_ganz(Arbeitsprojekt).value_or("");
+  ItemLeser leser(text);
+  for (int n = 1; n < nummer; ++n) leser.lies();
+  return leser.lies();
+}
+
+}  // namespace
+
+bool Start::starten(const Startangaben& angaben) {
+  if (!Datenordner_festlegen(angaben)) return false;
+  Captions_lesen(angaben.sprache);
+  Uebergabe_lesen();
+  Arbeitsprojekt_pruefen();
+  zum_Menue();
+  return true;
+}
+
+bool Start::Datenordner_festlegen(const Startangaben& angaben) {
+  const bool gegeben = !angaben.datenordner.empty();
+  Ablage& ablage = p_.ablage;
+  ablage.Datenordner = ohne_Trenner(gegeben ? angaben.datenordner : angaben.gefundener_ordner);
+  p_.einstellungen.Parameter_Lesen();
+  if (!gegeben && p_.einstellungen.erster_Start && angaben.fuellen)
+    angaben.fuellen(ablage.Datenordner);
+  // The folder as last used leads to another one only while that is there, and only once.
+  const std::string zuletzt = ohne_Trenner(p_.einstellungen[Einstellungen::Datenordner]);
+  if (!gegeben && zuletzt != ablage.Datenordner && ist_Ordner(zuletzt)) {
+    ablage.Datenordner = zuletzt;
+    p_.einstellungen.Parameter_Lesen();
+  }
+  if (ist_Ordner(ablage.Datenordner)) {
+    p_.meldungen.setze_ordner(ablage.Datenordner);
+    return true;
+  }
+  zeige_fehler(gegeben ? "The data folder \"" + ablage.Datenordner +
+                             "\" is not there. Give the path of an existing folder."
+                       : std::string(Nicht_schreibbar));
+  return false;
+}
+
+void Start::Captions_lesen(std::string_view sprache) {
+  p_.captions.Sprache =
+      sprache.empty() ? p_.einstellungen[Einstellungen::Sprache] : gross(getrimmt(sprache));
+  p_.captions.Captions_Laden();
+}
+
+void Start::Uebergabe_lesen() {
+  uebergabe_ = Uebergabe_Lesen(p_.ablage);
+  uebergabe_offen_ = uebergabe_.hat_Daten();
+}
+
+void Start::Arbeitsprojekt_pruefen() {
+  if (!Arbeitsprojekt_uebersetzen(p_.captions.Sprache)) zeige_fehler(Nicht_schreibbar);
+  Arbeits_KaelteM = Arbeitsprojekt_Item(p_.ablage, 1);
+}
+
+bool Start::Arbeitsprojekt_uebersetzen(std::string_view nach) {
+  const std::string von = gross(getrimmt(Arbeitsprojekt_Item(p_.ablage, Sprache_Item)));
+  if (zeichenzahl(von) != Codelaenge || von == nach) return true;
+  return Projekt_Uebersetzen(p_.ablage, p_.captions, von, nach);
+}
+
+void Start::zeige_fehler(std::string_view text) {
+  p_.dialog.zeige(text, Programmname, Symbol::fehler);
+}
+
+}  // namespace polarkreis

@@ -1,0 +1,201 @@
+#include "simulation/projladen.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "shell/items.h"
+#include "shell/platte.h"
+#include "shell/text.h"
+#include "simulation/lastprojekt.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::string_view Titel = "Polarkreis";
+constexpr std::string_view Parkdatei = "VerDpark.dat";
+constexpr std::size_t Kopfitems = 4;
+// The line of `Caption` that tells of a project without a name.
+constexpr int Name_fehlt = 44;
+
+std::string_view ohne_ordner(std::string_view datei) {
+  const std::size_t trenner = datei.find_last_of("/\\");
+  return trenner == std::string_view::npos ? datei : datei.substr(trenner + 1);
+}
+
+bool ist_Projektendung(std::string_view endung) {
+  return gross(endung) == ".PRJ";
+}
+
+bool gehoert_zu(std::string_view tag, std::string_view modul) {
+  if (tag.empty()) return modul == "KOMP" || modul == "VERB";
+  return tag == modul;
+}
+
+// Name, description, an unused text and the tag; a file that is too short leaves the rest empty.
+std::optional<std::array<std::string, Kopfitems>> kopf_lesen(Ablage& ablage,
+                                                             const std::string& datei) {
+  if (!ablage.vorhanden(datei)) return std::nullopt;
+  const std::optional<std::string> text = ablage.lies_ganz(datei);
+  if (!text) return std::nullopt;
+  std::array<std::string, Kopfitems> kopf;
+  ItemLeser leser(*text);
+  for (std::string& item : kopf) leser.lies(item);
+  return kopf;
+}
+
+std::string parkdatei_von(std::string_view projektdatei) {
+  const std::string_view name = ohne_ordner(projektdatei);
+  const std::size_t punkt = name.rfind('.');
+  const bool endung = punkt != std::string_view::npos && ist_Projektendung(name.substr(punkt));
+  return Ordner_von(projektdatei) + std::string(endung ? name.substr(0, punkt) : name) + ".VDD";
+}
+
+// A rename that never leaves less than one whole copy, also from one file system to another.
+bool umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
+  std::string bytes;
+  return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes) &&
+         ablage.Datei_Loeschen(von);
+}
+
+}  // namespace
+
+void ProjLaden::oeffnen(Browsermodus modus, std::string_view tag, std::string_view ordner) {
+  modus_ = modus;
+  tag_ = tag;
+  ordner_ = ordner;
+  if (!ordner_.empty() && ordner_.back() != '/' && ordner_.back() != '\\') ordner_ += '/';
+  Dateiname.clear();
+  liste_lesen();
+}
+
+void ProjLaden::liste_lesen() {
+  zeile_ = static_cast<std::size_t>(-1);
+  eintraege.clear();
+  for (const std::string& datei : ablage_.liste(ordner_, ".prj")) {
+    const auto kopf = kopf_lesen(ablage_, ordner_ + datei);
+    if (kopf && gehoert_zu((*kopf)[3], tag_)) eintraege.push_back({datei, (*kopf)[0], (*kopf)[1]});
+  }
+}
+
+void ProjLaden::waehlen(std::size_t zeile) {
+  if (zeile >= eintraege.size()) return;
+  zeile_ = zeile;
+  Dateiname = eintraege[zeile].datei;
+  if (modus_ == Browsermodus::speichern) return;
+  ProjektNam = eintraege[zeile].name;
+  ProBeschr = eintraege[zeile].beschreibung;
+}
+
+std::string ProjLaden::auswahl_text() const {
+  if (zeile_ >= eintraege.size()) return {};
+  const Projekteintrag& e = eintraege[zeile_];
+  return captions_.text(Caption::Projekt) + " " + e.name + ", " + e.beschreibung;
+}
+
+bool ProjLaden::bestaetigen() {
+  if (modus_ == Browsermodus::speichern) return speichern_bestaetigen();
+  if (getrimmt(Dateiname).empty()) return false;
+  return modus_ == Browsermodus::loeschen ? loeschen_bestaetigen() : oeffnen_bestaetigen();
+}
+
+bool ProjLaden::oeffnen_bestaetigen() {
+  if (!ablage_.vorhanden(projektdatei())) {
+    FehlerBOX(dialog_, Fehler::Datei_fehlt);
+    return false;
+  }
+  if (!Lastdatei(tag_).empty()) return gelungen(Lastprojekt_Oeffnen(ablage_, projektdatei()));
+  return gelungen(park_laden(ablage_, tag_, projektdatei()));
+}
+
+bool ProjLaden::speichern_bestaetigen() {
+  if (const std::string_view last = Lastdatei(tag_); !last.empty()) {
+    if (!ablage_.vorhanden(last)) {
+      FehlerBOX(dialog_, Fehler::Datei_fehlt);
+      return false;
+    }
+    Dateiname = Lastprojekt_Name(Dateiname, Projektname_Start);
+    return gelungen(Lastprojekt_Speichern(ablage_, projektdatei(), ProjektNam, ProBeschr, tag_));
+  }
+  const std::string name = Projektdatei_Name(Dateiname);
+  if (name.empty() || ist_Projektendung(ohne_ordner(name))) {
+    dialog_.zeige(captions_.text(Stamm::Caption, Name_fehlt), Titel, Symbol::hinweis);
+    return false;
+  }
+  Dateiname = name;
+  return true;
+}
+
+bool ProjLaden::loeschen_bestaetigen() {
+  const bool weg = gelungen(ablage_.Datei_Loeschen(projektdatei()));
+  liste_lesen();
+  if (weg) Dateiname.clear();
+  return weg;
+}
+
+bool ProjLaden::gelungen(bool ergebnis) {
+  if (ergebnis) return true;
+  if (ablage_.letzter_fehler().empty())
+    FehlerBOX(dialog_, Fehler::Datei_fehlt);
+  else
+    dialog_.zeige(ablage_.letzter_fehler(), Titel, Symbol::fehler);
+  return false;
+}
+
+bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
+  if (!Modul_mit_Park(tag) || !ablage.vorhanden(Parkdatei)) return true;
+  return umbenennen(ablage, Parkdatei, parkdatei_von(projektdatei));
+}
+
+bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
+  const std::string park = parkdatei_von(projektdatei);
+  if (!Modul_mit_Park(tag) || !ablage.vorhanden(park)) return true;
+  return umbenennen(ablage, park, Parkdatei);
+}
+
+Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view tag) {
+  const std::string aktuell = gross(getrimmt(form.Dateiname_aktuell));
+  if (aktuell.empty() || aktuell == ".PRJ") {
+    browser.ProjektNam = form.ProjektNam;
+    browser.ProBeschr = form.ProBeschr;
+    browser.oeffnen(Browsermodus::speichern, tag, form.Projektordner);
+    return Speicherung::Name_noetig;
+  }
+  form.Projektname_aktuell = form.ProjektNam;
+  const bool gespeichert =
+      form.Projekt_Speichern(tag, form.Projektordner) &&
+      park_sichern(form.ablage, tag, form.Projektordner + form.Dateiname_aktuell);
+  return gespeichert ? Speicherung::gespeichert : Speicherung::misslungen;
+}
+
+std::string Projektdatei_Name(std::string_view name) {
+  const std::string_view voll = getrimmt(name);
+  const std::string_view datei = ohne_ordner(voll);
+  if (datei.empty()) return {};
+  const std::size_t punkt = datei.rfind('.');
+  if (punkt != std::string_view::npos && ist_Projektendung(datei.substr(punkt)))
+    return std::string(voll);
+  return Ordner_von(voll) + std::string(datei.substr(0, datei.find('.'))) + ".prj";
+}
+
+std::string Projektdatei_Pfad(const Ablage& ablage, std::string_view name) {
+  const std::string hier = "./" + std::string(name);
+  if (name.find_first_of("/\\") != std::string_view::npos || !ablage.vorhanden(hier))
+    return std::string(name);
+  return hier;
+}
+
+std::string Ordner_von(std::string_view datei) {
+  const std::size_t trenner = datei.find_last_of("/\\");
+  return std::string(datei.substr(0, trenner == std::string_view::npos ? 0 : trenner + 1));
+}
+
+bool Modul_mit_Park(std::string_view tag) {
+  static constexpr std::array<std::string_view, 6> Module = {"KOMP", "2STAGE", "VERB",
+                                                             "PUMP", "HeatP",  "MonoF"};
+  return std::any_of(Module.begin(), Module.end(),
+                     [&](std::string_view modul) { return gleich(modul, tag); });
+}
+
+}  // namespace polarkreis

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/ablage.h"
+#include "shell/captions.h"
+#include "shell/dialog.h"
+#include "simulation/projektdaten.h"
+
+namespace polarkreis {
+
+/// What the project browser was opened for.
+enum class Browsermodus { oeffnen = 1, speichern = 2, loeschen = 5 };
+
+/// One project file of the folder.
+struct Projekteintrag {
+  std::string datei;  ///< file name as it stands in the folder
+  std::string name;
+  std::string beschreibung;
+
+  bool operator==(const Projekteintrag&) const = default;
+};
+
+/// The project browser.
+class ProjLaden {
+ public:
+  ProjLaden(Ablage& ablage, const Captions& captions, Dialog& dialog)
+      : ablage_(ablage), captions_(captions), dialog_(dialog) {}
+
+  /// The default name of a load project: the shared setting `Projektname_Start`.
+  std::string Projektname_Start;
+
+  std::vector<Projekteintrag> eintraege;  ///< the listed files, sorted by file name
+  std::string Dateiname;                  ///< the name field: a file name, without its folder
+  std::string ProjektNam, ProBeschr;      ///< project name and description
+
+  /// Opens on a folder (with or without its trailing separator; empty is the data folder) and lists
+  /// its files "*.prj" of the module `tag`. An empty tag in a file is accepted only for the modules
+  /// "KOMP" and "VERB". Clears the name field; name and description stay for a save.
+  void oeffnen(Browsermodus modus, std::string_view tag, std::string_view ordner);
+  /// Selects line `zeile` (from 0): its file goes to the name field and, except on saving, its name
+  /// and description to theirs.
+  void waehlen(std::size_t zeile);
+  /// The text of the selected line; empty without one.
+  std::string auswahl_text() const;
+  /// Completes the browser's own part. Opening: the park or the load file of the module is put in
+  /// the data folder. Saving: the name field gets its extension, and a load module's project is
+  /// written. Deleting: the file is removed, and the list read anew. False, and the reason shown in
+  /// a box, if that fails or no name is given.
+  bool bestaetigen();
+  /// The path of the file in the name field.
+  std::string projektdatei() const { return ordner_ + Dateiname; }
+
+ private:
+  void liste_lesen();
+  bool oeffnen_bestaetigen();
+  bool speichern_bestaetigen();
+  bool loeschen_bestaetigen();
+  bool gelungen(bool ergebnis);
+
+  Ablage& ablage_;
+  const Captions& captions_;
+  Dialog& dialog_;
+  Browsermodus modus_ = Browsermodus::oeffnen;
+  std::string tag_;
+  std::string ordner_;  // with its trailing separator
+  std::size_t zeile_ = static_cast<std::size_t>(-1);
+};
+
+/// What became of a save.
+enum class Speicherung { gespeichert, misslungen, Name_noetig };
+
+/// The save button: with a file name that is blank or ".PRJ" the browser is opened in mode 2 on the
+/// form's project folder, and nothing is saved yet; otherwise name and description are taken over
+/// and the project is stored at once, with its park where the module has one.
+Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view tag);
+
+/// The name rule of a save: a name without an extension gets ".prj", any other extension than
+/// ".PRJ" (in any case) is cut at the first point and replaced. A folder before the name stays.
+std::string Projektdatei_Name(std::string_view name);
+
+/// Where a project file of that name is sought: a path as it stands, a bare name in the current
+/// folder and, if it isn't there, in the data folder.
+std::string Projektdatei_Pfad(const Ablage& ablage, std::string_view name);
+/// The folder of a file with its trailing separator; empty for a bare name.
+std::string Ordner_von(std::string_view datei);
+
+/// True for the modules whose projects carry a compressor park, in any case.
+bool Modul_mit_Park(std::string_view tag);
+/// Renames "VerDpark.dat" of the data folder to `<name>.VDD` beside the project file, after a save,
+/// and back, after opening. Nothing is done for a module without a park, or where there is none.
+/// False if a file can't be written or removed: the park then still stands where it was.
+bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
+bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
+
+}  // namespace polarkreis
