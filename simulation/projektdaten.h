@@ -47,6 +47,7 @@ class Projektdaten : public Projektsatz {
   std::string Rechart_combo;                ///< kind of calculation
   bool KaltGAbt = false, HeißGAbt = false;  ///< defrost by cold gas, by hot gas
   bool JG_fertig = false;                   ///< a course was confirmed since the project was opened
+  double tmin_gemerkt = 0;  ///< lowest condensing temperature that a point worked out, °C
 
   /// Operating figures of the project folder.
   Energiedaten energie;
@@ -61,28 +62,37 @@ class Projektdaten : public Projektsatz {
   /// (none while a project loads). False for an unknown name.
   bool aendern(std::string_view item, std::string_view text);
   /// Takes a kind of calculation over: its text, `Rechart`, and the fields that SEPR and SEER kinds
-  /// set (without change events).
+  /// set (without change events: no temperature follows from them).
   void Rechart_waehlen(std::string_view text);
+  /// False for a kind with an annual course, which greys `betrstd`, `lzfaktor` and `JahrebetrT`:
+  /// the year itself gives the hours.
+  bool Betriebszahlen_wirksam() const;
 
   /// Reads the 46 items into the fields, with their fallbacks, then derives. With `offen` 1 the
-  /// number is open and stands behind the header.
+  /// number is open, stands behind the header, and stays open. Items that the file doesn't hold
+  /// leave their fields as they were, unless they have a fallback. The items of another language
+  /// are translated in memory.
   void Projekt_Lesen(std::string_view name, int nummer, int offen);
-  /// Writes the 46 items and then "energk.dat". With `anhaengen` 1 behind what the number already
-  /// holds; otherwise all files are closed and the items are the whole file. False if a file could
-  /// not be put in place.
+  /// Writes the 46 items, closes the number, and then writes "energk.dat" beside the file of that
+  /// name. With `anhaengen` 1 behind what the open number already holds; otherwise all files are
+  /// closed and the items are the whole file. `Sprache` becomes the current language. False if a
+  /// file could not be put in place; "energk.dat" is not written behind a project that failed.
   bool Projekt_Schreiben(std::string_view name, int nummer, int anhaengen);
-  /// Writes header and items to the current file name in `ordner`.
+  /// Writes header and items to the current file name in `ordner` (empty: the data folder), which
+  /// becomes the project folder. False, and the old file as it was, without a file name or on a
+  /// failure.
   bool Projekt_Speichern(std::string_view tag, std::string_view ordner);
   /// Opens a project file of that tag; false, and nothing changed, if it isn't one or can't be
-  /// read.
+  /// read. A name without a folder is sought in the current folder, then in the data folder.
   bool Projekt_Oeffnen(std::string_view tag, std::string_view name);
   /// The working project, "Temp_Sim.dat".
   void Arbeitsprojekt_Lesen();
   bool Arbeitsprojekt_Schreiben();
   /// Takes over what a sibling program left: temperatures, capacity, name, description,
-  /// refrigerant, pumps, economiser, type and construction.
+  /// refrigerant, pumps, economiser, type and construction, each unless its item is empty; then
+  /// empties the hand-over file. Nothing happens without a start code.
   void Uebergabe_Uebernehmen(const Uebergabe& daten);
-  /// The values that a sibling program is handed.
+  /// The values that a sibling program is handed, with the start code 117.
   Uebergabe Uebergabe_Fuellen() const;
 
   /// Derives every number; texts of `tambient`, `t0`, `Tc`, `dtVerfl` only where they are empty.
@@ -90,7 +100,8 @@ class Projektdaten : public Projektsatz {
   /// Sets the refrigerant; an unknown one is told in a message box, and is kept as it stands.
   Projektmeldung Kaeltemittel_Uebernehmen(std::string_view name);
 
-  /// --- What a selection offers, in order.
+  /// --- What a selection offers, in order; the catalogue for `KaelteM`; empty for a field that is
+  /// no selection.
   std::vector<std::string> Auswahl(std::string_view item) const;
   /// Texts of the kinds of calculation, in order.
   std::vector<std::string> Rechart_Auswahl() const;
@@ -102,8 +113,26 @@ class Projektdaten : public Projektsatz {
 
  private:
   bool laedt_ = false;
+  bool speichern(std::string_view item, std::string_view text);
+  void Ereignis(std::string_view item);
+  void Abtauart_zeigen();
+  void Abtauart_setzen(std::string_view schalter);
+  void Rechart_zeigen();
+
+  /// Figures of the size classes with the refrigerant's factor, K.
+  double Verdampfer_dT() const;
+  double Verfluessiger_dT() const;
+  double Verfluessiger_Basis() const;
+  void Zahlen_ableiten();
+  void tambient_ableiten();
   void Verdampfer_ableiten();
   void Verfluessiger_ableiten();
+  void WinterRGart_begrenzen();
+  void WinterRGart_setzen(std::string_view temperatur);
+  void P_gasK_ableiten();
+
+  int Items_lesen(int nummer);
+  void Ersatzwerte();
 };
 
 /// The kind of calculation as the text tells it.

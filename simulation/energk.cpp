@@ -1,0 +1,38 @@
+#include "simulation/energk.h"
+
+#include <array>
+
+#include "shell/items.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::string_view kDatei = "energk.dat";
+
+constexpr std::array kFelder{&Energiedaten::betrstd, &Energiedaten::lzfaktor,
+                             &Energiedaten::EnergKost, &Energiedaten::JahrebetrT,
+                             &Energiedaten::Spezco2emission};
+
+}  // namespace
+
+Energiedaten energk_lesen(Ablage& ablage, const std::string& ordner) {
+  const std::string inhalt = ablage.lies_ganz(ordner + std::string(kDatei)).value_or("");
+  ItemLeser leser(inhalt);
+  Energiedaten daten;
+  for (const auto feld : kFelder) {
+    std::string item = leser.lies();
+    if (!item.empty()) daten.*feld = std::move(item);
+  }
+  return daten;
+}
+
+bool energk_schreiben(Ablage& ablage, const std::string& ordner, const Energiedaten& daten,
+                      Haltbarkeit haltbarkeit) {
+  std::string inhalt;
+  zeile_anhaengen(inhalt, {daten.betrstd, daten.lzfaktor, daten.EnergKost, daten.JahrebetrT,
+                           daten.Spezco2emission});
+  return ablage.schreib_ganz(ordner + std::string(kDatei), inhalt, haltbarkeit);
+}
+
+}  // namespace polarkreis

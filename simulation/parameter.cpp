@@ -1,0 +1,101 @@
+#include "simulation/parameter.h"
+
+#include <span>
+
+#include "shell/items.h"
+#include "shell/text.h"
+#include "shell/wert.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::string_view kJMapOpt = "JMapOpt.dat";
+constexpr std::string_view kSubAct = "SubAct.dat";
+constexpr std::string_view kArmstd = "Armstd.rdm";
+constexpr std::size_t kSatzlaenge = 5;
+
+double zahl(const Druckdifferenzen& differenzen, std::size_t index) {
+  const std::string& text = differenzen.werte[index];
+  return Wert(getrimmt(text).empty() ? Druckdifferenzen{}.werte[index] : text);
+}
+
+std::string je_zeile(std::span<const std::string> werte) {
+  std::string inhalt;
+  for (const std::string& wert : werte) zeile_anhaengen(inhalt, {wert});
+  return inhalt;
+}
+
+/// Record n of the start values; empty where the file is too short.
+std::string startwert(std::string_view saetze, std::size_t n) {
+  const std::size_t anfang = (n - 1) * kSatzlaenge;
+  if (anfang >= saetze.size()) return {};
+  return std::string(getrimmt(saetze.substr(anfang, kSatzlaenge)));
+}
+
+}  // namespace
+
+double Druckdifferenzen::thermostatisch() const {
+  return zahl(*this, 0);
+}
+double Druckdifferenzen::andere() const {
+  return zahl(*this, 1);
+}
+double Druckdifferenzen::leitung() const {
+  return zahl(*this, 2);
+}
+double Druckdifferenzen::verteiler() const {
+  return zahl(*this, 3);
+}
+
+Druckdifferenzen JMapOpt_lesen(std::string&& text) {
+  const std::string inhalt = std::move(text);
+  ItemLeser leser(inhalt);
+  Druckdifferenzen differenzen;
+  for (std::string& wert : differenzen.werte) {
+    std::string item = leser.lies();
+    if (!getrimmt(item).empty()) wert = std::move(item);
+  }
+  return differenzen;
+}
+
+bool JMapOpt_schreiben(Ablage& ablage, const Druckdifferenzen& werte) {
+  return ablage.schreib_ganz(kJMapOpt, je_zeile(werte.werte));
+}
+
+double Zusatzwerte::Ueberhitzung_Zusatz() const {
+  return Wert(werte[1]);
+}
+double Zusatzwerte::Unterkuehlung() const {
+  return Wert(werte[2]);
+}
+double Zusatzwerte::dT_Innen_WT() const {
+  return Wert(werte[3]);
+}
+
+Zusatzwerte SubAct_lesen(std::string&& text) {
+  const std::string inhalt = std::move(text);
+  ItemLeser leser(inhalt);
+  Zusatzwerte zusatz;
+  for (std::string& wert : zusatz.werte) wert = leser.lies();
+  return zusatz;
+}
+
+bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte) {
+  return ablage.schreib_ganz(kSubAct, je_zeile(werte.werte));
+}
+
+void SubAct_sicherstellen(Ablage& ablage, std::string_view modul) {
+  if (ablage.vorhanden(kSubAct)) return;
+  const std::string saetze = ablage.lies_ganz(kArmstd).value_or("");
+  // Without start values nothing is written: a list of empty items would count as present later.
+  if (saetze.empty()) return;
+  constexpr std::array<std::size_t, 6> kSaetze{24, 25, 26, 33, 34, 35};
+  Zusatzwerte zusatz;
+  for (std::size_t i = 0; i < kSaetze.size(); ++i) zusatz.werte[i] = startwert(saetze, kSaetze[i]);
+  std::string inhalt = je_zeile(zusatz.werte);
+  if (modul == "MonoF") inhalt += inhalt;
+  ablage.schreib_ganz(kSubAct, inhalt);
+}
+
+}  // namespace polarkreis

@@ -1,0 +1,86 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "shell/text.h"
+#include "shell/wert.h"
+#include "simulation/projektdaten.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr std::string_view kStartcode = "117";
+
+/// Compressor types and constructions in the order of the hand-over's numbers, from 1.
+std::array<std::string, 4> Verdichtertypen(const Captions& captions) {
+  return {captions.text(Caption::Hubkolben), captions.text(Caption::Schraube), "Scroll", "Turbo"};
+}
+std::array<std::string, 3> Bauformen(const Captions& captions) {
+  return {captions.text(Caption::Offen), captions.text(Caption::Halbhermetisch),
+          captions.text(Caption::Hermetisch)};
+}
+
+template <class Liste>
+void nimm_Nummer(std::string& target, const Liste& liste, std::string_view nummer) {
+  const double n = Wert(nummer);
+  for (std::size_t i = 0; i < liste.size(); ++i)
+    if (n == static_cast<double>(i + 1)) target = liste[i];
+}
+
+template <class Liste>
+std::string Nummer_von(const Liste& liste, std::string_view text) {
+  for (std::size_t i = 0; i < liste.size(); ++i)
+    if (!liste[i].empty() && gleich(liste[i], text)) return std::to_string(i + 1);
+  return "";
+}
+
+void nimm_Text(std::string& target, const std::string& text) {
+  if (!getrimmt(text).empty()) target = text;
+}
+
+}  // namespace
+
+void Projektdaten::Uebergabe_Uebernehmen(const Uebergabe& daten) {
+  if (!daten.hat_Daten()) return;
+  using U = Uebergabe;
+  if (!getrimmt(daten[U::Kaeltemittel]).empty()) Kaeltemittel_Uebernehmen(daten[U::Kaeltemittel]);
+  nimm_Text(t0, daten[U::t0]);
+  nimm_Text(Q0, daten[U::Q0]);
+  nimm_Text(ProjektNam, daten[U::Projektname]);
+  nimm_Text(ProBeschr, daten[U::Beschreibung]);
+  nimm_Text(PumpCap, daten[U::PumpCap]);
+  nimm_Nummer(verdichter_typ, Verdichtertypen(captions), daten[U::Verdichtertyp]);
+  nimm_Nummer(Verdichterbauart, Bauformen(captions), daten[U::Bauform]);
+  if (!getrimmt(daten[U::Economiser]).empty()) aendern("ECO_OPT", daten[U::Economiser]);
+  const std::string& temperatur = daten[U::Tc_oder_Winter];
+  if (!getrimmt(temperatur).empty()) {
+    if (daten.mit_Winter())
+      WinterRGart_setzen(temperatur);
+    else
+      aendern("Tc", temperatur);
+  }
+  Ableiten();
+  // Emptied as soon as the data are in the form, so that the hand-over happens once.
+  Uebergabe_Leeren(ablage);
+}
+
+Uebergabe Projektdaten::Uebergabe_Fuellen() const {
+  using U = Uebergabe;
+  Uebergabe daten;
+  daten[1] = "0";
+  daten[U::Startcode] = kStartcode;
+  daten[U::t0] = t0;
+  daten[U::Tc_oder_Winter] = Tc;
+  daten[U::Q0] = Q0;
+  daten[U::Projektname] = ProjektNam;
+  daten[U::Beschreibung] = ProBeschr;
+  daten[U::Kaeltemittel] = KaelteM;
+  daten[U::PumpCap] = PumpCap;
+  daten[U::Economiser] = std::to_string(ECO_OPT);
+  daten[U::Verdichtertyp] = Nummer_von(Verdichtertypen(captions), verdichter_typ);
+  daten[U::Bauform] = Nummer_von(Bauformen(captions), Verdichterbauart);
+  return daten;
+}
+
+}  // namespace polarkreis
