@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "simulation/projladen.h"
+#include "support/temp_folder.h"
+#include "support/test_dialog.h"
+
+namespace polarkreis {
+namespace {
+
+struct ProjSpeichKnopf : testing::Test {
+  TempOrdner daten;
+  TempOrdner projekte;
+  Meldungen meldungen;
+  Ablage ablage{daten.pfad(), meldungen};
+  Captions captions{ablage};
+  TestDialog dialog;
+  Kaeltemittel km{ablage};
+  Projektdaten form{ablage, captions, km, dialog};
+  ProjLaden browser{ablage, captions, dialog};
+
+  void SetUp() override {
+    form.Projektordner = projekte.pfad() + "/";
+    form.ProjektNam = "Dairy";
+    form.ProBeschr = "milk";
+  }
+};
+
+TEST_F(ProjSpeichKnopf, AsksForANameWhenThereIsNone) {
+  for (const char* name : {"", "   ", ".PRJ", " .prj "}) {
+    form.Dateiname_aktuell = name;
+    browser.Dateiname = "left over";
+    EXPECT_EQ(ProjSpeich(form, browser, "SIM_PRO"), Speicherung::Name_noetig) << name;
+    EXPECT_EQ(browser.Dateiname, "");
+    EXPECT_EQ(browser.ProjektNam, "Dairy");
+    EXPECT_EQ(browser.ProBeschr, "milk");
+    EXPECT_TRUE(projekte.namen().empty());
+  }
+}
+
+TEST_F(ProjSpeichKnopf, SavesAtOnceUnderTheCurrentName) {
+  form.Dateiname_aktuell = "dairy.prj";
+  EXPECT_EQ(ProjSpeich(form, browser, "SIM_PRO"), Speicherung::gespeichert);
+  EXPECT_TRUE(projekte.lies("dairy.prj").starts_with("\"Dairy\",\"milk\",\"\",\"SIM_PRO\"\r\n"));
+  EXPECT_EQ(form.Projektname_aktuell, "Dairy");
+}
+
+TEST_F(ProjSpeichKnopf, TellsAFailureAndKeepsThePark) {
+  std::filesystem::create_directories(projekte.pfad("dairy.prj"));
+  daten.schreib("VerDpark.dat", "park");
+  form.Dateiname_aktuell = "dairy.prj";
+  EXPECT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::misslungen);
+  EXPECT_EQ(daten.lies("VerDpark.dat"), "park");
+}
+
+TEST_F(ProjSpeichKnopf, PutsTheParkAwayWithAProjectThatCarriesOne) {
+  daten.schreib("VerDpark.dat", "park");
+  form.Dateiname_aktuell = "dairy.prj";
+  EXPECT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::gespeichert);
+  EXPECT_EQ(projekte.lies("dairy.VDD"), "park");
+  EXPECT_FALSE(daten.da("VerDpark.dat"));
+}
+
+}  // namespace
+}  // namespace polarkreis
