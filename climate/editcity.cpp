@@ -9,7 +9,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr std::string_view Laenderdatei = "COUNTRY.DAT";
 constexpr int Rueckgabe_OK = 3;
 
 bool satz_leer(const editcity::Stadtzeile& zeile) {
@@ -36,7 +35,7 @@ void editcity::lies_Staedte() {
 
 void editcity::lies_Laender() {
   CountrySp = {};
-  const std::string inhalt = Datei_Inhalt(ablage_, std::string(Laenderdatei));
+  const std::string inhalt = Datei_Inhalt(ablage_, Laenderdatei());
   ItemLeser leser(inhalt);
   for (std::string& land : CountrySp) land = leser.lies();
 }
@@ -62,7 +61,7 @@ bool editcity::schreib_Staedte() {
 bool editcity::schreib_Laender() {
   std::string inhalt;
   for (const std::string& land : CountrySp) zeile_anhaengen(inhalt, {land});
-  return ablage_.schreib_ganz(Laenderdatei, inhalt);
+  return ablage_.schreib_ganz(Laenderdatei(), inhalt);
 }
 
 bool editcity::SPS_Sich() {

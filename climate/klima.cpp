@@ -13,7 +13,6 @@ namespace {
 constexpr std::size_t Namenslaenge = 8;
 constexpr std::string_view Standarddatei = "AC_CITY.DAT";
 constexpr std::string_view Standardland = "GERMANY_";
-constexpr std::string_view Laenderdatei = "COUNTRY.DAT";
 constexpr double Feuchte_Winter = 80;
 
 enum Feld {
@@ -147,7 +146,7 @@ double Klima::Klima_Wert(std::string_view stadt, int selektor) {
 
 std::vector<std::string> Klima::laender() {
   std::vector<std::string> liste;
-  const std::string inhalt = Datei_Inhalt(ablage_, std::string(Laenderdatei));
+  const std::string inhalt = Datei_Inhalt(ablage_, Laenderdatei());
   ItemLeser leser(inhalt);
   std::string land;
   while (liste.size() < Laenderzahl && leser.lies(land) && !blank(land)) liste.push_back(land);

@@ -156,6 +156,7 @@ TEST_F(KlimaWert, MissingFileHoldsNoCity) {
   EXPECT_TRUE(ist_leer(klima.Klima_Wert("Probe", 1)));
   EXPECT_EQ(humidity("Probe")[0], 80);
   EXPECT_TRUE(klima.staedte().empty());
+  EXPECT_EQ(desk.ablage.Dateigroesse("Atlantis.DAT"), 0);
 }
 
 TEST_F(KlimaWert, CutLastRecordGivesZeros) {
