@@ -28,11 +28,6 @@ bool ist_Projektendung(std::string_view endung) {
   return gross(endung) == ".PRJ";
 }
 
-bool gehoert_zu(std::string_view tag, std::string_view modul) {
-  if (tag.empty()) return modul == "KOMP" || modul == "VERB";
-  return tag == modul;
-}
-
 // Name, description, an unused text and the tag; a file that is too short leaves the rest empty.
 std::optional<std::array<std::string, Kopfitems>> kopf_lesen(Ablage& ablage,
                                                              const std::string& datei) {
@@ -75,7 +70,7 @@ void ProjLaden::liste_lesen() {
   eintraege.clear();
   for (const std::string& datei : ablage_.liste(ordner_, ".prj")) {
     const auto kopf = kopf_lesen(ablage_, ordner_ + datei);
-    if (kopf && gehoert_zu((*kopf)[3], tag_)) eintraege.push_back({datei, (*kopf)[0], (*kopf)[1]});
+    if (kopf && Tag_passt((*kopf)[3], tag_)) eintraege.push_back({datei, (*kopf)[0], (*kopf)[1]});
   }
 }
 
@@ -166,7 +161,14 @@ Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view 
   const bool gespeichert =
       form.Projekt_Speichern(tag, form.Projektordner) &&
       park_sichern(form.ablage, tag, form.Projektordner + form.Dateiname_aktuell);
-  return gespeichert ? Speicherung::gespeichert : Speicherung::misslungen;
+  if (gespeichert) return Speicherung::gespeichert;
+  form.dialog.zeige(form.ablage.letzter_fehler(), Titel, Symbol::fehler);
+  return Speicherung::misslungen;
+}
+
+bool Tag_passt(std::string_view tag, std::string_view modul) {
+  if (tag.empty()) return modul == "KOMP" || modul == "VERB";
+  return tag == modul;
 }
 
 std::string Projektdatei_Name(std::string_view name) {
@@ -180,7 +182,8 @@ std::string Projektdatei_Name(std::string_view name) {
 }
 
 std::string Projektdatei_Pfad(const Ablage& ablage, std::string_view name) {
-  const std::string hier = "./" + std::string(name);
+  std::string hier = "./";
+  hier += name;
   if (name.find_first_of("/\\") != std::string_view::npos || !ablage.vorhanden(hier))
     return std::string(name);
   return hier;

@@ -78,6 +78,10 @@ enum class Speicherung { gespeichert, misslungen, Name_noetig };
 /// and the project is stored at once, with its park where the module has one.
 Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view tag);
 
+/// True if a project file with that tag belongs to the module. The old files of "KOMP" and "VERB"
+/// have none.
+bool Tag_passt(std::string_view tag, std::string_view modul);
+
 /// The name rule of a save: a name without an extension gets ".prj", any other extension than
 /// ".PRJ" (in any case) is cut at the first point and replaced. A folder before the name stays.
 std::string Projektdatei_Name(std::string_view name);

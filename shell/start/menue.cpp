@@ -5,6 +5,7 @@
 #include "shell/items.h"
 #include "shell/start/start.h"
 #include "shell/start/version.h"
+#include "shell/wert.h"
 
 namespace polarkreis {
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr int Atempause = 50;   // units of waiting before and after the children close
 constexpr int Ende_Frage = 38;  // line of `Caption`
-constexpr std::string_view Startcode = "117";
 
 std::string voller_Pfad(const std::string& ordner) {
   std::error_code fehler;
@@ -101,18 +101,35 @@ bool Start::Sprache_waehlen(std::string_view code) {
 }
 
 bool Start::Simulation_verlassen() {
-  bool gut = p_.projekt.Arbeitsprojekt_Schreiben();
+  Projektdaten& projekt = p_.projekt;
+  bool gut = projekt.Arbeitsprojekt_Schreiben();
   if (!gut) zeige_fehler(p_.ablage.letzter_fehler());
+  // From here on the working project is the state, and no project file is open.
+  projekt.Dateiname_aktuell.clear();
+  projekt.Projektordner.clear();
   zum_Menue();
   if (!von_Geschwister()) return gut;
-  Uebergabe zurueck = p_.projekt.Uebergabe_Fuellen();
-  zurueck[Uebergabe::Startcode] = uebergabe_[Uebergabe::Startcode];
-  if (!Daten_Uebergabe(p_.ablage, zurueck)) {
-    zeige_fehler(p_.ablage.letzter_fehler());
-    gut = false;
-  }
   beendet = true;
-  return gut;
+  if (Daten_Uebergabe(p_.ablage, Rueckgabe())) return gut;
+  zeige_fehler(p_.ablage.letzter_fehler());
+  return false;
+}
+
+// The form's values in the kind in which the sibling left them; what it left beside them stays.
+Uebergabe Start::Rueckgabe() const {
+  Uebergabe daten = p_.projekt.Uebergabe_Fuellen();
+  daten[Uebergabe::Startcode] = uebergabe_[Uebergabe::Startcode];
+  if (uebergabe_.mit_Winter()) {
+    const double winter = Wert(p_.projekt.WinterRGart);
+    daten[Uebergabe::Tc_oder_Winter] = winter != 0 ? Zahl_Text(winter) : std::string();
+  }
+  for (int item = 1; item <= Uebergabe::Itemzahl; ++item) {
+    const bool eigenes =
+        item == Uebergabe::Startcode ||
+        (item >= Uebergabe::t0 && item <= Uebergabe::Bauform && item != Uebergabe::unbenutzt);
+    if (!eigenes) daten[item] = uebergabe_[item];
+  }
+  return daten;
 }
 
 bool Start::Geschwister_starten(std::string_view programm) {
@@ -120,9 +137,7 @@ bool Start::Geschwister_starten(std::string_view programm) {
     p_.projekt.Arbeitsprojekt_Lesen();
     projekt_geladen_ = true;
   }
-  Uebergabe daten = p_.projekt.Uebergabe_Fuellen();
-  if (!daten.hat_Daten()) daten[Uebergabe::Startcode] = Startcode;
-  if (!Daten_Uebergabe(p_.ablage, daten)) {
+  if (!Daten_Uebergabe(p_.ablage, p_.projekt.Uebergabe_Fuellen())) {
     zeige_fehler(p_.ablage.letzter_fehler());
     return false;
   }

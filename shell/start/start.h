@@ -116,6 +116,7 @@ class Start {
   void Uebergabe_lesen();
   void Arbeitsprojekt_pruefen();
   bool Arbeitsprojekt_uebersetzen(std::string_view nach);
+  Uebergabe Rueckgabe() const;
   void zeige_fehler(std::string_view text);
 
   Programm& p_;

@@ -46,7 +46,7 @@ void Vorgaben::StandardButt() {
   ablage.Datei_Satz(Startwerte, Startwerte_Nummer, Startwerte_Laenge);
   for (std::size_t i = 0; i < Startwerte_Saetze.size(); ++i)
     SubAct[i] = getrimmt(ablage.Satz_Lesen(Startwerte_Nummer, Startwerte_Saetze[i]));
-  SubAct.back() = "0";
+  SubAct.back() = std::string("0");
   ablage.Datei_Schliessen(Startwerte_Nummer);
 }
 
