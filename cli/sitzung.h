@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,12 @@ inline constexpr int gut = 0;
 inline constexpr int misslungen =
     1;  ///< the work could not be done; standard error says why and what to do
 inline constexpr int falscher_Aufruf = 2;
+
+/// Work that can't be done at all; its text says why and what to do. `main` tells it and ends with
+/// `misslungen`.
+struct Abbruch : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 /// The options before the command.
 struct Optionen {
@@ -36,7 +43,8 @@ class Sitzung {
   /// What the call ends with; a command sets it.
   int status = gut;
 
-  /// The started program: data folder, settings, captions, working project.
+  /// The started program: data folder, settings and captions. Throws `Abbruch` where there is no
+  /// data folder.
   Programm& programm();
   /// Says on standard error why the work could not be done and what to do, and sets the status.
   void fehler(std::string_view text, int status_neu = misslungen);
