@@ -33,9 +33,6 @@ class Schreiber {
   std::string text_;
 };
 
-std::string mit(const std::string& wert, std::string_view einheit) {
-  return wert + std::string(einheit);
-}
 std::string mit(double wert, std::string_view einheit) {
   return Zahl_Text(wert) + std::string(einheit);
 }

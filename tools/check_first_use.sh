@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# A new user's first steps with the built program, on a copy of the data folder: $1 is polarkreis-cli.
+set -euo pipefail
+program=$(readlink -f "$1")
+top=$(cd "$(dirname "$(readlink -f "$0")")/.." && pwd)
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+cp -r "$top/data/." "$folder"
+cd "$folder"
+"$program" --help >/dev/null
+for project in *.prj; do
+  "$program" --data . --language ENG simulate "$project" >/dev/null
+  test -s ERG_TEMP.DAT && test -s ergEN1.DAT
+  "$program" --data . --language GER point "$project" --json >/dev/null
+done
+"$program" --data . --language ENG simulate >/dev/null
+echo "First use: all sample projects calculate."

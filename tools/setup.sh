@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Installs the Debian packages named in the arguments' lists that are missing. Sourced lists: build, test, bench.
+set -euo pipefail
+
+build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+test=(libgtest-dev clang-format python3 git)
+bench=(libbenchmark-dev)
+
+wanted=()
+for list in "$@"; do
+  declare -n packages=$list
+  wanted+=("${packages[@]}")
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "Please install as root: apt-get install ${missing[*]}" >&2; exit 1; }
+  root=(sudo)
+fi
+echo "Installing: ${missing[*]}" >&2
+export DEBIAN_FRONTEND=noninteractive
+"${root[@]}" apt-get update -qq >&2
+"${root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
