@@ -89,8 +89,8 @@ class Projektdaten : public Projektsatz {
   void Arbeitsprojekt_Lesen();
   bool Arbeitsprojekt_Schreiben();
   /// Takes over what a sibling program left: temperatures, capacity, name, description,
-  /// refrigerant, pumps, economiser, type and construction, each unless its item is empty; then
-  /// empties the hand-over file. Nothing happens without a start code.
+  /// refrigerant, pumps, economiser, type and construction, each unless its item is empty.
+  /// Nothing happens without a start code. The caller then empties the hand-over file.
   void Uebergabe_Uebernehmen(const Uebergabe& daten);
   /// The values that a sibling program is handed, with the start code 117.
   Uebergabe Uebergabe_Fuellen() const;

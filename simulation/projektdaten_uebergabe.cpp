@@ -61,8 +61,6 @@ void Projektdaten::Uebergabe_Uebernehmen(const Uebergabe& daten) {
       aendern("Tc", temperatur);
   }
   Ableiten();
-  // Emptied as soon as the data are in the form, so that the hand-over happens once.
-  Uebergabe_Leeren(ablage);
 }
 
 Uebergabe Projektdaten::Uebergabe_Fuellen() const {
