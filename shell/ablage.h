@@ -139,7 +139,7 @@ class Ablage {
   Nummer* offen(int nummer) const;
   Nummer& oeffne(std::string_view name, int nummer, bool text);
   bool lege_ab(Nummer& nummer);
-  bool misslungen(const std::string& pfad, std::string text);
+  bool misslungen(const std::string& wo, const std::string& warum);
   void neuer_schritt();
   void alles_pruefen();
 

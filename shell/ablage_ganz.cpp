@@ -40,9 +40,9 @@ bool Ablage::Datei_Loeschen(std::string_view name) {
   return false;
 }
 
-bool Ablage::misslungen(const std::string& pfad, std::string text) {
-  letzter_fehler_ = "Can not write \"" + pfad + "\": " + text;
-  meldungen_.melde("write", pfad, "not written: " + text);
+bool Ablage::misslungen(const std::string& wo, const std::string& warum) {
+  letzter_fehler_ = "Can not write \"" + wo + "\": " + warum;
+  meldungen_.melde("write", wo, "not written: " + warum);
   return false;
 }
 

@@ -29,7 +29,7 @@ std::string eigene_schreibung(std::string_view pfad) {
 /// The path as it stands, before any look at the disk.
 std::string woertlich(const std::string& datenordner, std::string_view name) {
   if (name.find_first_of("/\\") != std::string_view::npos) return eigene_schreibung(name);
-  return eigene_schreibung(datenordner) + "/" + eigene_schreibung(name);
+  return platte::im_ordner(eigene_schreibung(datenordner), eigene_schreibung(name));
 }
 
 bool ist_datei(const std::string& pfad) {
@@ -87,7 +87,7 @@ std::vector<std::string> Ablage::liste(std::string_view ordner, std::string_view
   while (const dirent* eintrag = ::readdir(offen.get())) {
     const std::string name = eintrag->d_name;
     if (name.starts_with('.') || !gross(name).ends_with(gesucht)) continue;
-    if (eintrag->d_type == DT_REG || ist_datei(wo + "/" + name)) namen.push_back(name);
+    if (eintrag->d_type == DT_REG || ist_datei(platte::im_ordner(wo, name))) namen.push_back(name);
   }
   std::sort(namen.begin(), namen.end());
   return namen;

@@ -20,6 +20,12 @@ struct Ort {
   std::string name;
 };
 Ort ort(const std::string& pfad);
+/// The path of a name in a folder.
+inline std::string im_ordner(std::string ordner, std::string_view name) {
+  ordner += '/';
+  ordner += name;
+  return ordner;
+}
 
 /// The file's bytes into `bytes`; on an error they stay as they were.
 int lies(const std::string& pfad, std::string& bytes);

@@ -59,8 +59,8 @@ struct Ordnerschluss {
 
 std::string finde(const std::string& ordner, std::string_view name) {
   struct stat stand {};
-  const std::string genau(name);
-  if (::lstat((ordner + "/" + genau).c_str(), &stand) == 0) return genau;
+  std::string genau(name);
+  if (::lstat(im_ordner(ordner, genau).c_str(), &stand) == 0) return genau;
   const std::unique_ptr<DIR, Ordnerschluss> offen(::opendir(ordner.c_str()));
   if (!offen) return {};
   const std::string gesucht = gross(name);

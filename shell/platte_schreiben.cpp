@@ -89,7 +89,7 @@ class Kurzlebig {
   int setze_an(const std::string& ziel) {
     if (pfad_.empty()) {
       const std::string quelle = "/proc/self/fd/" + std::to_string(datei_.nummer());
-      const std::string pfad = ordner_ + "/" + kurzlebiger_name();
+      const std::string pfad = im_ordner(ordner_, kurzlebiger_name());
       if (::linkat(AT_FDCWD, quelle.c_str(), AT_FDCWD, pfad.c_str(), AT_SYMLINK_FOLLOW) != 0)
         return errno;
       pfad_ = pfad;
@@ -104,7 +104,7 @@ class Kurzlebig {
   int oeffne(bool namenlos) {
     if (namenlos) return ::open(ordner_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
     for (int versuch = 0;; ++versuch) {
-      pfad_ = ordner_ + "/" + kurzlebiger_name();
+      pfad_ = im_ordner(ordner_, kurzlebiger_name());
       const int datei = ::open(pfad_.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
       if (datei >= 0) return datei;
       pfad_.clear();
@@ -125,7 +125,7 @@ int ende_der_kette(std::string& pfad) {
     if (n < 0) return 0;
     if (static_cast<std::size_t>(n) == ziel.size()) return ENAMETOOLONG;
     const std::string weiter(ziel.data(), static_cast<std::size_t>(n));
-    pfad = weiter.starts_with('/') ? weiter : ort(pfad).ordner + "/" + weiter;
+    pfad = weiter.starts_with('/') ? weiter : im_ordner(ort(pfad).ordner, weiter);
   }
   return ELOOP;
 }

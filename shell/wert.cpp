@@ -188,10 +188,10 @@ void dezimal_anhaengen(std::string& target, const Dezimal& zahl) {
     exponentform_anhaengen(target, zahl);
   } else if (zahl.exponent < 0) {
     target += "0.";
-    target.append(static_cast<std::size_t>(-zahl.exponent - 1), '0');
+    target.append(static_cast<std::size_t>(-zahl.exponent) - 1, '0');
     target.append(ziffern, anzahl);
   } else {
-    const auto ganze = static_cast<std::size_t>(zahl.exponent + 1);
+    const auto ganze = static_cast<std::size_t>(zahl.exponent) + 1;
     if (anzahl <= ganze) {
       target.append(ziffern, anzahl);
       target.append(ganze - anzahl, '0');
@@ -206,7 +206,7 @@ void dezimal_anhaengen(std::string& target, const Dezimal& zahl) {
 /// Most numbers that are stored are whole hundredths: they need integer formatting only.
 bool hundertstel_anhaengen(std::string& target, double betrag) {
   if (!(betrag < 1e11)) return false;
-  const auto hundertstel = static_cast<std::int64_t>(betrag * 100 + 0.5);
+  const std::int64_t hundertstel = std::llrint(betrag * 100);
   if (static_cast<double>(hundertstel) / 100 != betrag) return false;
   std::array<char, 24> puffer;
   char* ende = std::to_chars(puffer.data(), puffer.data() + 20, hundertstel / 100).ptr;
