@@ -146,12 +146,13 @@ void Kreis::KreisPunkt(double t0, double tc, double t_s, double& dT_sc) {
   saugdichte(z, t_s);
   steigungen(km, l);
 
+  // The discharge temperature is a place holder; the third viscosity takes the suction temperature
+  // in °C where kelvin are meant: so it is fitted.
   km.Dampf_Korrelation(z.Tc, t_s, t_s, t_s);
   const double kappa = z.kappa;
   double T_d = 0;
   setze(T_d, Verd_Endtemp(groesse_ungenannt, z.p0, z.pc, t_s + nullpunkt, kappa));
-  // The third state takes the suction temperature in °C where kelvin are meant: so it is fitted.
-  km.Dampf_Korrelation(z.Tc, T_d, t_s, t_s);
+  km.Dampf_Waerme(z.Tc, T_d, t_s);
   setze(z.rho_d, (z.rho_vc * z.Tc) / (T_d * Dichte_Faktor()));
   if (km.ist_CO2()) austritt_CO2(km, T_d, t_s, kappa, dT_sc);
   setze(z.dT_sc, dT_sc);

@@ -34,4 +34,8 @@ void Kaeltemittel::Dampf_Korrelation(double T_a, double T_d, double T_x, double 
   exponenten(z, f, festes_verhaeltnis, t_s);
 }
 
+void Kaeltemittel::Dampf_Waerme(double T_a, double T_d, double t_s) {
+  if (const KMEintrag* e = eintrag()) waermekapazitaeten(z, korrelation(*e), T_a, T_d, t_s);
+}
+
 }  // namespace polarkreis

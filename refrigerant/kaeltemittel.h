@@ -74,6 +74,9 @@ class Kaeltemittel {
   /// temperature in K, `T_d` discharge temperature in K, `T_x` temperature of the third vapour
   /// viscosity in K, `t_s` compressor inlet temperature in °C; reads `T0`, `dT_sh` and `RefName`.
   void Dampf_Korrelation(double T_a, double T_d, double T_x, double t_s);
+  /// Of the above the specific heats alone. With the other arguments unchanged since the last call
+  /// a new `T_d` reaches nothing else.
+  void Dampf_Waerme(double T_a, double T_d, double t_s);
 
   /// State points of R744 from "CO2_sh01.dat": `row` 1 gas cooler outlet, 2 discharge, 3 slope on
   /// the high side. `T` in K, `p` in bar absolute (not tested by row 3).

@@ -175,6 +175,19 @@ bool gleiche_bits(const KMZustand& a, const KMZustand& b) {
          std::memcmp(&a.Klammer, &b.Klammer, sizeof a.Klammer) == 0;
 }
 
+TEST(KreisPunkt, SecondPassOfTheCorrelationsFindsNothingToChange) {
+  for (const KMEintrag& e : KM_Katalog()) {
+    Aufbau a{std::string(e.name)};
+    if (a.u.km.ist_CO2()) continue;
+    const double t0 = e.tmin + 15, tc = t0 + 35;
+    a.punkt(t0, tc, t0 + 12);
+    const double T_d = a.kreis.Verd_Endtemp(10, a.z.p0, a.z.pc, t0 + 12 + 273.15, a.z.kappa);
+    const KMZustand vorher = a.z;
+    a.u.km.Dampf_Korrelation(a.z.Tc, T_d, t0 + 12, t0 + 12);
+    EXPECT_TRUE(gleiche_bits(vorher, a.z)) << e.name;
+  }
+}
+
 TEST(KreisPunkt, ParsedCopyGivesTheBitsOfATableReadAnew) {
   for (const char* name : {"R22", "R404A", "R717", "R744", "R123", "R12"}) {
     Aufbau kopie(name), neu(name);
