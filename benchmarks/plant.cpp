@@ -1,0 +1,44 @@
+#include "plant.h"
+
+#include <unistd.h>
+
+#include "platform/dateiwache.h"
+
+namespace polarkreis::bench {
+
+namespace fs = std::filesystem;
+
+Datenkopie::Datenkopie()
+    : pfad_(fs::temp_directory_path() / ("polarkreis-bench-" + std::to_string(getpid()))) {
+  fs::copy(POLARKREIS_DATA, pfad_, fs::copy_options::recursive);
+}
+
+Datenkopie::~Datenkopie() {
+  std::error_code ignored;
+  fs::remove_all(pfad_, ignored);
+}
+
+Anlagenlauf::Anlagenlauf(const std::string& ordner, const std::string& projekt, bool freie_kuehlung,
+                         bool heizung)
+    : programm_(std::make_unique<Programm>(ordner, stumm_)) {
+  Programm& p = *programm_;
+  p.laden("ENG");
+  p.ablage.setze_wache(Dateiwache_machen(ordner));
+  p.projekt.Projekt_Oeffnen("SIM_PRO", ordner + "/" + projekt);
+  p.projekt.FreeC_Check = freie_kuehlung;
+  p.projekt.HeizCheck = heizung;
+  Kurs_machen(p.klima, p.projekt);
+  lauf_ = std::make_unique<JahresLauf>(
+      Laufmittel{p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog});
+}
+
+Rechnung Anlagenlauf::rechnen() {
+  return rechbutt(*lauf_, programm_->projekt, "EUR");
+}
+
+std::string Anlagenlauf::dateien() {
+  return programm_->ablage.lies_ganz("ERG_TEMP.DAT").value_or("") +
+         programm_->ablage.lies_ganz("ergEN1.DAT").value_or("");
+}
+
+}  // namespace polarkreis::bench

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "shell/start/programm.h"
+#include "simulation/ergebnis.h"
+
+namespace polarkreis::bench {
+
+/// A user who agrees and is told nothing.
+class Stumm : public Dialog {
+ public:
+  void zeige(std::string_view, std::string_view, Symbol) override {}
+  bool frage(std::string_view, std::string_view) override { return true; }
+};
+
+/// A copy of the delivered data folder, removed at the end.
+class Datenkopie {
+ public:
+  Datenkopie();
+  ~Datenkopie();
+  std::string ordner() const { return pfad_.string(); }
+
+ private:
+  std::filesystem::path pfad_;
+};
+
+/// A sample plant, opened with its options and course, ready to be calculated as often as wanted.
+class Anlagenlauf {
+ public:
+  Anlagenlauf(const std::string& ordner, const std::string& projekt, bool freie_kuehlung,
+              bool heizung);
+
+  Rechnung rechnen();
+  /// "ERG_TEMP.DAT" and "ergEN1.DAT" as they stand.
+  std::string dateien();
+  Programm& programm() { return *programm_; }
+
+ private:
+  Stumm stumm_;
+  std::unique_ptr<Programm> programm_;
+  std::unique_ptr<JahresLauf> lauf_;
+};
+
+}  // namespace polarkreis::bench
