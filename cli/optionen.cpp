@@ -1,0 +1,84 @@
+#include "optionen.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+
+#include "ausgabe.h"
+#include "konsole.h"
+#include "shell/text.h"
+#include "sitzung.h"
+
+namespace polarkreis::cli {
+
+namespace {
+
+constexpr std::array<std::string_view, 10> kNamen{
+    "HeizCheck", "FreeC_Check", "ParaL_Check", "Check3D1",      "ECO_OPT",
+    "Gleitopt",  "ErP_Vers",    "t_K_wasser",  "Lamm_AB_combo", "Rechart_combo"};
+constexpr std::uintmax_t kGroesse_hoechstens = 1'000'000;
+
+std::string namensliste() {
+  std::string liste;
+  for (std::string_view name : kNamen) liste += (liste.empty() ? "" : ", ") + std::string(name);
+  return liste;
+}
+
+std::string inhalt_von(const std::string& datei) {
+  std::error_code fehler;
+  if (!std::filesystem::is_regular_file(datei, fehler))
+    throw Abbruch("The options file \"" + datei + "\" is not there or is no file.");
+  if (std::filesystem::file_size(datei, fehler) > kGroesse_hoechstens)
+    throw Abbruch("The options file \"" + datei + "\" is too large to be one.");
+  std::ifstream strom(datei, std::ios::binary);
+  if (!strom) throw Abbruch("The options file \"" + datei + "\" can't be read.");
+  return {std::istreambuf_iterator<char>(strom), std::istreambuf_iterator<char>()};
+}
+
+// The text of a value as a user would put it into the control.
+std::string text_von(const std::string& name, const Json& wert) {
+  if (wert.is_string()) return wert.get<std::string>();
+  if (wert.is_boolean()) return wert.get<bool>() ? "1" : "0";
+  if (wert.is_number()) return Zahl_Text(wert.get<double>());
+  throw Abbruch("The option \"" + name + "\" must be a text, a number, true or false.");
+}
+
+void rechart_setzen(const Json& wert, const std::string& text, Projektdaten& projekt) {
+  if (wert.is_string()) {
+    projekt.aendern("Rechart_combo", text);
+    const auto arten = projekt.Rechart_Auswahl();
+    const bool bekannt =
+        std::ranges::any_of(arten, [&](const std::string& art) { return gleich(art, text); });
+    if (!bekannt)
+      melde("\"" + text + "\" is none of the kinds of calculation; it counts as a year's run.");
+  } else {
+    projekt.aendern("Rechart", text);
+  }
+}
+
+}  // namespace
+
+void optionen_lesen(const std::string& datei, Projektdaten& projekt) {
+  const Json json = Json::parse(inhalt_von(datei), nullptr, false);
+  if (!json.is_object())
+    throw Abbruch("The options file \"" + datei +
+                  "\" is no JSON object. It holds any of: " + namensliste() + ".");
+  for (const auto& [name, wert] : json.items()) {
+    if (std::ranges::find(kNamen, name) == kNamen.end())
+      throw Abbruch("The options file \"" + datei + "\" has an unknown name \"" + name +
+                    "\". The names are: " + namensliste() + ".");
+    text_von(name, wert);
+  }
+  for (const auto& [name, wert] : json.items()) {
+    const std::string text = text_von(name, wert);
+    if (name == "Rechart_combo")
+      rechart_setzen(wert, text, projekt);
+    else
+      projekt.aendern(name, text);
+  }
+}
+
+}  // namespace polarkreis::cli
