@@ -152,7 +152,7 @@ void Kreis::KreisPunkt(double t0, double tc, double t_s, double& dT_sc) {
   const double kappa = z.kappa;
   double T_d = 0;
   setze(T_d, Verd_Endtemp(groesse_ungenannt, z.p0, z.pc, t_s + nullpunkt, kappa));
-  km.Dampf_Waerme(z.Tc, T_d, t_s);
+  km.Dampf_Waerme(z.Tc, T_d, t_s);  // all of the second pass that the new T_d reaches
   setze(z.rho_d, (z.rho_vc * z.Tc) / (T_d * Dichte_Faktor()));
   if (km.ist_CO2()) austritt_CO2(km, T_d, t_s, kappa, dT_sc);
   setze(z.dT_sc, dT_sc);

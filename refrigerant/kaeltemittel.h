@@ -92,6 +92,7 @@ class Kaeltemittel {
   const KMEintrag* eintrag() const;
   const SatTabelle& tabelle(const std::string& datei);
   const CO2Daten& co2_daten();
+  void mangel_melden(const std::string& datei, int bruch, bool leere);
   SatTreffer suche(double key, int mode);
   double linie(double p, int mode, double SatZeile::*temperatur, double& f);
   double mit_eintritt(double p, double t_d, double t_b, double T_eintritt, double& f);
@@ -101,6 +102,7 @@ class Kaeltemittel {
   mutable const KMEintrag* gefunden_ = nullptr;
   Dateikopie<SatTabelle> tabelle_;
   Dateikopie<CO2Daten> co2_;
+  std::string leere_gemeldet_;  // the empty table that was told last
   const std::string co2_datei_ = "CO2_sh01.dat";
 };
 

@@ -50,8 +50,8 @@ enum class Liquid {
   R407A
 };
 
-/// Forms of the vapour's specific heat. `polynom` forms take the fluid's polynomial, with the
-/// factors as multipliers.
+/// Forms of the vapour's specific heat. Those with a polynomial take the designation's factors as
+/// multipliers.
 enum class Waerme {
   CpA,
   CpA_linear,

@@ -13,34 +13,42 @@ constexpr double zeilenschritt = 5;  // kelvin from row to row of every table
 constexpr double nullpunkt = 273.15;
 
 // An absent table is opened as any input is, which may leave an empty file behind.
-void fehlende_melden(Ablage& ablage, const std::string& datei) {
+void wie_eingabe_oeffnen(Ablage& ablage, const std::string& datei) {
   ablage.Datei_Lesen(datei, dateinummer);
   ablage.Datei_Schliessen(dateinummer);
-  ablage.meldungen().melde(ort, datei, "the table is missing; former values stay");
-}
-
-void bruch_melden(Ablage& ablage, const std::string& datei, int zeile) {
-  if (zeile == 0) return;
-  ablage.meldungen().melde(ort, datei,
-                           "row " + std::to_string(zeile) + " can't be read; the table ends there");
 }
 
 }  // namespace
 
+// Tells once what a table lacks; an empty one is told again only after another table was empty or
+// this one had rows.
+void Kaeltemittel::mangel_melden(const std::string& datei, int bruch, bool leere) {
+  if (bruch != 0) {
+    ablage_.meldungen().melde(
+        ort, datei, "row " + std::to_string(bruch) + " can't be read; the table ends there");
+  } else if (leere && leere_gemeldet_ != datei) {
+    ablage_.meldungen().melde(ort, datei, "the table is missing or empty; former values stay");
+  }
+  if (leere)
+    leere_gemeldet_ = datei;
+  else if (leere_gemeldet_ == datei)
+    leere_gemeldet_.clear();
+}
+
 const SatTabelle& Kaeltemittel::tabelle(const std::string& datei) {
   return tabelle_.hol(ablage_, datei, [&](std::optional<std::string>&& text) {
-    if (!text) fehlende_melden(ablage_, datei);
+    if (!text) wie_eingabe_oeffnen(ablage_, datei);
     SatTabelle gelesen = sat_tabelle_lesen(datei, std::move(text));
-    bruch_melden(ablage_, datei, gelesen.bruch);
+    mangel_melden(datei, gelesen.bruch, gelesen.zeilen.empty());
     return gelesen;
   });
 }
 
 const CO2Daten& Kaeltemittel::co2_daten() {
   return co2_.hol(ablage_, co2_datei_, [&](std::optional<std::string>&& text) {
-    if (!text) fehlende_melden(ablage_, co2_datei_);
+    if (!text) wie_eingabe_oeffnen(ablage_, co2_datei_);
     CO2Daten gelesen = co2_daten_lesen(std::move(text));
-    bruch_melden(ablage_, co2_datei_, gelesen.bruch);
+    mangel_melden(co2_datei_, gelesen.bruch, gelesen.zeilen.empty());
     return gelesen;
   });
 }

@@ -47,6 +47,19 @@ TEST(SatTabelle, MissingTableIsLeftEmptyTheBracketStaysAndItIsTold) {
   EXPECT_EQ(u.km.Sat_TausP(3, 177), 0);
 }
 
+TEST(SatTabelle, EmptyTableIsToldOnceUntilItHasRowsAgain) {
+  TempOrdner ordner;
+  ordner.schreib("R22.DAT", "");
+  KaeltemittelUmgebung u("R22", ordner.pfad());
+  for (int i = 0; i < 3; ++i) u.km.Sat_Suchen(252, 0);
+  EXPECT_EQ(meldungen_mit(u, "missing or empty"), 1);
+  ordner.schreib("R22.DAT", zwei_zeilen);
+  u.km.Sat_Suchen(252, 0);
+  ordner.schreib("R22.DAT", "");
+  u.km.Sat_Suchen(252, 0);
+  EXPECT_EQ(meldungen_mit(u, "missing or empty"), 2);
+}
+
 TEST(SatTabelle, FolderInPlaceOfTheTableCountsAsMissing) {
   TempOrdner ordner;
   std::filesystem::create_directory(ordner.pfad("R22.DAT"));
