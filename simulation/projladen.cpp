@@ -144,9 +144,11 @@ bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projekt
 }
 
 bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
+  if (!Modul_mit_Park(tag)) return true;
   const std::string park = parkdatei_von(projektdatei);
-  if (!Modul_mit_Park(tag) || !ablage.vorhanden(park)) return true;
-  return umbenennen(ablage, park, Parkdatei);
+  if (ablage.vorhanden(park)) return umbenennen(ablage, park, Parkdatei);
+  ablage.meldungen().melde("park_laden", park, "missing: the park stays as it is");
+  return true;
 }
 
 Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view tag) {

@@ -86,6 +86,10 @@ bool Start::Flagge_klicken(std::string_view name) {
 
 bool Start::Sprache_waehlen(std::string_view code) {
   if (std::find(Sprachen().begin(), Sprachen().end(), code) == Sprachen().end()) return false;
+  if (!Sprache_da(code)) {
+    FehlerBOX(p_.dialog, Fehler::Datei_fehlt);
+    return false;
+  }
   Einstellungen& e = p_.einstellungen;
   const std::string vorher = e[Einstellungen::Sprache];
   e[Einstellungen::Sprache] = code;

@@ -17,11 +17,14 @@ Programm::Programm(std::string datenordner, Dialog& user)
       jahresgang(ablage, captions, klima),
       wrg(ablage, captions),
       luft(ablage),
-      projekt(ablage, captions, km, dialog) {}
+      projekt(ablage, captions, km, dialog),
+      projladen(ablage, captions, dialog) {}
 
 void Programm::laden(std::string_view sprache) {
   einstellungen.Parameter_Lesen();
-  captions.Sprache = sprache.empty() ? einstellungen[Einstellungen::Sprache] : gross(sprache);
+  projladen.Projektname_Start = einstellungen[Einstellungen::Projektname_Start];
+  captions.Sprache =
+      sprache.empty() ? einstellungen[Einstellungen::Sprache] : gross(getrimmt(sprache));
   captions.Captions_Laden();
 }
 

@@ -15,6 +15,7 @@
 #include "shell/einstellungen.h"
 #include "shell/meldungen.h"
 #include "simulation/projektdaten.h"
+#include "simulation/projladen.h"
 
 namespace polarkreis {
 
@@ -42,6 +43,7 @@ struct Programm {
   WRG wrg;
   Luftzustand luft;
   Projektdaten projekt;
+  ProjLaden projladen;
 };
 
 }  // namespace polarkreis

@@ -39,7 +39,7 @@ std::string Arbeitsprojekt_Item(Ablage& ablage, int nummer) {
 
 bool Start::starten(const Startangaben& angaben) {
   if (!Datenordner_festlegen(angaben)) return false;
-  Captions_lesen(angaben.sprache);
+  p_.laden(angaben.sprache);
   Uebergabe_lesen();
   Arbeitsprojekt_pruefen();
   zum_Menue();
@@ -55,24 +55,17 @@ bool Start::Datenordner_festlegen(const Startangaben& angaben) {
     angaben.fuellen(ablage.Datenordner);
   // The folder as last used leads to another one only while that is there, and only once.
   const std::string zuletzt = ohne_Trenner(p_.einstellungen[Einstellungen::Datenordner]);
-  if (!gegeben && zuletzt != ablage.Datenordner && ist_Ordner(zuletzt)) {
-    ablage.Datenordner = zuletzt;
-    p_.einstellungen.Parameter_Lesen();
-  }
+  const bool weiter = !gegeben && ist_Ordner(zuletzt);
+  if (weiter) ablage.Datenordner = zuletzt;
   if (ist_Ordner(ablage.Datenordner)) {
     p_.meldungen.setze_ordner(ablage.Datenordner);
+    if (!gegeben && !weiter) p_.meldungen.melde("start", zuletzt, "not there: found afresh");
     return true;
   }
   zeige_fehler(gegeben ? "The data folder \"" + ablage.Datenordner +
                              "\" is not there. Give the path of an existing folder."
                        : std::string(Nicht_schreibbar));
   return false;
-}
-
-void Start::Captions_lesen(std::string_view sprache) {
-  p_.captions.Sprache =
-      sprache.empty() ? p_.einstellungen[Einstellungen::Sprache] : gross(getrimmt(sprache));
-  p_.captions.Captions_Laden();
 }
 
 void Start::Uebergabe_lesen() {
@@ -85,9 +78,16 @@ void Start::Arbeitsprojekt_pruefen() {
   Arbeits_KaelteM = Arbeitsprojekt_Item(p_.ablage, 1);
 }
 
+bool Start::Sprache_da(std::string_view code) const {
+  std::string datei(stammform(Stamm::JMapCap).name);
+  datei.append(".").append(code);
+  return p_.ablage.vorhanden(datei);
+}
+
 bool Start::Arbeitsprojekt_uebersetzen(std::string_view nach) {
   const std::string von = gross(getrimmt(Arbeitsprojekt_Item(p_.ablage, Sprache_Item)));
-  if (zeichenzahl(von) != Codelaenge || von == nach) return true;
+  // Without its captions there is nothing to translate to: the texts must stay tied to their own.
+  if (zeichenzahl(von) != Codelaenge || von == nach || !Sprache_da(nach)) return true;
   return Projekt_Uebersetzen(p_.ablage, p_.captions, von, nach);
 }
 

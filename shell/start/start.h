@@ -91,8 +91,8 @@ class Start {
   /// A click on a flag, by its name; false for an unknown one.
   bool Flagge_klicken(std::string_view name);
   /// Changes the language: stores it, translates the working project, reads all captions. False,
-  /// the reason shown, and the language as it was, if a file can't be written or the code is none
-  /// of the languages.
+  /// and the language as it was, if the code is none of the languages, or (the reason shown) if its
+  /// captions are missing or a file can't be written.
   bool Sprache_waehlen(std::string_view code);
 
   /// A job that was chosen in the menu gives it back.
@@ -112,9 +112,9 @@ class Start {
 
  private:
   bool Datenordner_festlegen(const Startangaben& angaben);
-  void Captions_lesen(std::string_view sprache);
   void Uebergabe_lesen();
   void Arbeitsprojekt_pruefen();
+  bool Sprache_da(std::string_view code) const;
   bool Arbeitsprojekt_uebersetzen(std::string_view nach);
   Uebergabe Rueckgabe() const;
   void zeige_fehler(std::string_view text);

@@ -42,7 +42,10 @@ void Vorgaben::StandardButt() {
   Ablage& ablage = projekt_.ablage;
   JMapOpt = Druckdifferenzen{}.werte;
   energie = Energiedaten{};
-  if (!ablage.vorhanden(Startwerte)) return;
+  if (!ablage.vorhanden(Startwerte)) {
+    ablage.meldungen().melde("StandardButt", Startwerte, "missing: the fields of SubAct.dat stay");
+    return;
+  }
   ablage.Datei_Satz(Startwerte, Startwerte_Nummer, Startwerte_Laenge);
   for (std::size_t i = 0; i < Startwerte_Saetze.size(); ++i)
     SubAct[i] = getrimmt(ablage.Satz_Lesen(Startwerte_Nummer, Startwerte_Saetze[i]));

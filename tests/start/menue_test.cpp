@@ -115,6 +115,18 @@ TEST_F(Flaggen, AnUnknownFlagOrCodeChangesNothing) {
   EXPECT_EQ(daten.lies("kparam.dat"), kparam("ENG"));
 }
 
+TEST_F(Flaggen, ALanguageWithoutCaptionsIsToldAndNotTaken) {
+  liefere_captions();
+  daten.schreib("kparam.dat", kparam("ENG"));
+  daten.schreib("Temp_Sim.dat", arbeitsprojekt("ENG", "text"));
+  EXPECT_TRUE(starten());
+  EXPECT_FALSE(start.Flagge_klicken("French"));
+  EXPECT_EQ(dialog.texte, std::vector<std::string>{fehlertext(Fehler::Datei_fehlt)});
+  EXPECT_EQ(programm.captions.Sprache, "ENG");
+  EXPECT_EQ(daten.lies("kparam.dat"), kparam("ENG"));
+  EXPECT_EQ(daten.lies("Temp_Sim.dat"), arbeitsprojekt("ENG", "text"));
+}
+
 TEST_F(Flaggen, AWorkingProjectThatCannotBeRewrittenKeepsTheLanguage) {
   liefere_captions();
   daten.schreib("kparam.dat", kparam("ENG"));

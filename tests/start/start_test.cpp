@@ -75,6 +75,9 @@ TEST_F(StartOrdner, AStoredFolderThatIsGoneIsFoundAfresh) {
   angaben.gefundener_ordner = daten.pfad();
   EXPECT_TRUE(start.starten(angaben));
   EXPECT_EQ(programm.ablage.Datenordner, daten.pfad());
+  ASSERT_FALSE(programm.meldungen.zeilen().empty());
+  EXPECT_NE(programm.meldungen.zeilen().front().find(daten.pfad("gone")), std::string::npos);
+  EXPECT_TRUE(daten.da("log/polarkreis.log"));
 }
 
 using StartSprache = StartTest;
@@ -144,6 +147,13 @@ TEST_F(StartSprache, AWorkingProjectThatCannotBeRewrittenIsTold) {
   EXPECT_EQ(dialog.texte, std::vector<std::string>{"Can not overwrite existing file."});
   EXPECT_EQ(dialog.symbole, std::vector<Symbol>{Symbol::fehler});
   EXPECT_EQ(daten.lies("Temp_Sim.dat"), arbeitsprojekt("GER", ""));
+}
+
+TEST_F(StartSprache, WithoutCaptionsLeavesTheWorkingProjectInItsOwn) {
+  liefere_captions();
+  daten.schreib("Temp_Sim.dat", arbeitsprojekt("GER", "Text"));
+  EXPECT_TRUE(starten("FRA"));
+  EXPECT_EQ(daten.lies("Temp_Sim.dat"), arbeitsprojekt("GER", "Text"));
 }
 
 using StartUebergabe = StartTest;
