@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
 #include "shell/deskriptor.h"
 
@@ -46,13 +47,14 @@ class Dateiwache : public Aenderungswache {
         bote_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)),
         wacht_(bote_ && ::stat(ordner_.c_str(), &stand_) == 0 &&
                ::inotify_add_watch(bote_.nummer(), ordner_.c_str(), Ereignisse | IN_ONLYDIR) >= 0 &&
-               am_ort()) {}
+               am_ort()),
+        fest_(wacht_ && folge_den_ordnern_darueber()) {}
 
   bool wacht() const { return wacht_; }
 
   bool vielleicht_geaendert() override {
     const bool ereignis = boten_abgehoert();
-    wacht_ = wacht_ && am_ort();
+    wacht_ = wacht_ && (fest_ || am_ort());
     return ereignis || !wacht_;
   }
 
@@ -89,10 +91,28 @@ class Dateiwache : public Aenderungswache {
            jetzt.st_ino == stand_.st_ino;
   }
 
+  /// Watches the folders above for being moved, so that the path needn't be followed at each check.
+  /// A path through a link can change without them: it must be followed.
+  bool folge_den_ordnern_darueber() const {
+    namespace fs = std::filesystem;
+    std::error_code fehler;
+    fs::path weg = fs::absolute(ordner_, fehler).lexically_normal();
+    if (!weg.has_filename()) weg = weg.parent_path();
+    if (fehler || fs::canonical(weg, fehler) != weg || fehler) return false;
+    for (fs::path oben = weg.parent_path();; oben = oben.parent_path()) {
+      if (::inotify_add_watch(bote_.nummer(), oben.c_str(),
+                              IN_MOVE_SELF | IN_DELETE_SELF | IN_ONLYDIR) < 0) {
+        return false;
+      }
+      if (oben == oben.root_path()) return true;
+    }
+  }
+
   std::string ordner_;
   struct stat stand_ {};
   platte::Deskriptor bote_;
   bool wacht_;
+  bool fest_;  // the path leads to the folder as long as no folder above is moved
 };
 
 }  // namespace

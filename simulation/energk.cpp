@@ -32,7 +32,10 @@ bool energk_schreiben(Ablage& ablage, const std::string& ordner, const Energieda
   std::string inhalt;
   zeile_anhaengen(inhalt, {daten.betrstd, daten.lzfaktor, daten.EnergKost, daten.JahrebetrT,
                            daten.Spezco2emission});
-  return ablage.schreib_ganz(ordner + std::string(kDatei), inhalt, haltbarkeit);
+  const std::string datei = ordner + std::string(kDatei);
+  // Every run stores it: what already stands there needs no new file.
+  if (ablage.lies_ganz(datei) == inhalt) return true;
+  return ablage.schreib_ganz(datei, inhalt, haltbarkeit);
 }
 
 }  // namespace polarkreis
