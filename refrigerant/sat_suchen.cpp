@@ -57,6 +57,11 @@ bool Kaeltemittel::KM_Tabelle_da() {
   const KMEintrag* e = eintrag();
   if (!e) return false;
   const Schrittfolge eine_pruefung(ablage_);
+  // Asked before a run: an absent table isn't opened, so that a run that can't start leaves no
+  // file.
+  if (!ablage_.vorhanden(e->datei) || (ist_CO2() && !ablage_.vorhanden("CO2_sh01.dat"))) {
+    return false;
+  }
   if (tabelle(std::string(e->datei)).zeilen.empty()) return false;
   return !ist_CO2() || !co2_daten().zeilen.empty();
 }

@@ -258,6 +258,7 @@ TEST_F(Jahr, AMissingTableIsMessage24) {
   std::filesystem::remove(w.ordner.pfad("R448A.DAT"));
   EXPECT_EQ(w.rechne().lauf.ende, Laufende::Tabelle_fehlt);
   EXPECT_EQ(w.dialog.texte.back(), "Polarkreis error 24: File not existing.");
+  EXPECT_FALSE(w.ordner.da("R448A.DAT"));
   w.oeffne("CO2 supermarket.prj");
   w.ordner.schreib("CO2_sh01.dat", "");
   EXPECT_EQ(w.rechne().lauf.ende, Laufende::Tabelle_fehlt);
