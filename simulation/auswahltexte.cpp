@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/text.h"
+
 namespace polarkreis {
 
 namespace {
@@ -40,6 +42,7 @@ constexpr std::array<Auswahltext, 10> kVerdampfer_dT{"3", "4", "5",  "6",  "7",
 constexpr std::array<Auswahltext, 16> kVerfluessiger_dT{
     "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16", "17", "18"};
 constexpr std::array<Auswahltext, 7> kKlassen{"A+", "A", "B", "C", "D", "E", "F"};
+constexpr std::array<Auswahltext, 2> kNormstufen{"2016", "2018"};
 constexpr std::array<Auswahltext, 4> kLamellen{"4", "7", "10", "12"};
 constexpr std::array<Auswahltext, 1> kKaeltemittel{J::Kaeltemittelwort};
 
@@ -76,10 +79,15 @@ constexpr std::array kListen{
     Auswahlliste{"DT_v_combo", kVerdampfer_dT},
     Auswahlliste{"VERFL_Eff_combo", kKlassen},
     Auswahlliste{"VERDA_Eff_combo", kKlassen},
+    Auswahlliste{"ErP_Vers", kNormstufen},
     Auswahlliste{"Lamm_AB_combo", kLamellen},
 };
 
 }  // namespace
+
+bool benennt(const std::string& caption, std::string_view text) {
+  return !caption.empty() && gleich(caption, text);
+}
 
 std::span<const Auswahltext> Auswahltexte(std::string_view item) {
   const auto liste = std::find_if(kListen.begin(), kListen.end(),

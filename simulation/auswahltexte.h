@@ -27,6 +27,10 @@ struct Auswahltext {
   }
 };
 
+/// True if the text of a selection is this caption. A caption that is missing names nothing, so
+/// that an empty selection does not turn into its meaning.
+bool benennt(const std::string& caption, std::string_view text);
+
 /// The texts that the selection `item` of a project offers, in order; empty for an item that is no
 /// selection of captions. Composed selections (`Anlagenart_Combo`, `Vfl_typ`) are not in here.
 std::span<const Auswahltext> Auswahltexte(std::string_view item);

@@ -20,11 +20,8 @@ struct Bedeutung {
 
 double Zahl_zu(const Captions& captions, std::span<const Bedeutung> tabelle, std::string_view text,
                double sonst) {
-  for (const Bedeutung& bedeutung : tabelle) {
-    const std::string caption = bedeutung.text.text(captions);
-    // A caption file that is missing must not make an empty selection mean its first line.
-    if (!caption.empty() && gleich(caption, text)) return bedeutung.zahl;
-  }
+  for (const Bedeutung& bedeutung : tabelle)
+    if (benennt(bedeutung.text.text(captions), text)) return bedeutung.zahl;
   return sonst;
 }
 
@@ -86,8 +83,8 @@ double eine_Dezimale(double zahl) {
 }
 
 bool ist_Kaelteraum(const Captions& captions, std::string_view anwendung) {
-  return gleich(anwendung, captions.text(J::Kaelteraum)) ||
-         gleich(anwendung, captions.text(J::Kaelteraum_zwei));
+  return benennt(captions.text(J::Kaelteraum), anwendung) ||
+         benennt(captions.text(J::Kaelteraum_zwei), anwendung);
 }
 
 /// The number's text; where the statement before failed, the target stays.
@@ -131,7 +128,7 @@ void Projektdaten::Zahlen_ableiten() {
   ableitung.pipe = Zahl_zu(captions, kLeitung, Leitungsdimension, 1) * (kaelteraum ? 2 : 1);
   ableitung.Isolier_dT = Zahl_zu(captions, kIsolier_dT, WaermeD, 0);
   ableitung.Ueberhitzung = Zahl_zu(captions, kUeberhitzung, vdsize, 8 * 0.8);
-  if (gleich(AnwendBereich, captions.text(J::Klima_Sommer)))
+  if (benennt(captions.text(J::Klima_Sommer), AnwendBereich))
     ableitung.Bezug = 2;
   else
     ableitung.Bezug = kaelteraum ? Zahl_zu(captions, kBezug, Tempbereich, 5) : 5;
@@ -178,7 +175,7 @@ void Projektdaten::Verfluessiger_ableiten() {
 
 void Projektdaten::WinterRGart_begrenzen() {
   const std::string_view text = getrimmt(WinterRGart);
-  if (text.empty() || gleich(text, captions.text(PedCap::Ohne))) return;
+  if (text.empty() || benennt(captions.text(PedCap::Ohne), text)) return;
   const std::string_view ziffern = erste_zeichen(text, 2);
   // A text that begins with no number holds no limit.
   if (ziffern.find_first_of("0123456789") == std::string_view::npos) return;
@@ -188,7 +185,7 @@ void Projektdaten::WinterRGart_begrenzen() {
 
 void Projektdaten::WinterRGart_setzen(std::string_view temperatur) {
   const double grenze = Int(Wert(temperatur));
-  if (gleich(temperatur, captions.text(PedCap::Ohne)))
+  if (benennt(captions.text(PedCap::Ohne), temperatur))
     WinterRGart = captions.text(PedCap::Ohne);
   else if (std::isfinite(grenze))
     WinterRGart = zweistellig(grenze);

@@ -123,7 +123,7 @@ Rechenart Rechenart_von(const Captions& captions, std::string_view text) {
 
 Verfluessigerart Verfluessigerart_von(const Captions& captions, std::string_view text) {
   const Verfluessigerworte wort(captions);
-  if (gleich(text, wort.wasser)) return Verfluessigerart::Wasser;
+  if (benennt(wort.wasser, text)) return Verfluessigerart::Wasser;
   if (gleich(text, kKuehlturm)) return Verfluessigerart::Kuehlturm;
   const std::string adiabat(kAdiabat);
   if (gleich(text, wort.luft + adiabat) || gleich(text, wort.trocken + adiabat))

@@ -93,7 +93,8 @@ void Projektdaten::Projekt_Lesen(std::string_view name, int nummer, int offen) {
     feld->clear();
   const int anzahl = Items_lesen(nummer);
   if (offen != 1) ablage.Datei_Schliessen(nummer);
-  if (anzahl < Projektfelder_Zahl)
+  // A working project that was never written is no damage.
+  if (anzahl < Projektfelder_Zahl && (anzahl > 0 || offen == 1))
     ablage.meldungen().melde("Projekt_Lesen", name,
                              std::to_string(anzahl) + " of " + std::to_string(Projektfelder_Zahl) +
                                  " items; the others keep their values or take their fallbacks");

@@ -113,6 +113,16 @@ TEST_F(Projektableitung, ApplicationMovesTheReferenceButNotTheTemperature) {
   EXPECT_EQ(form.t0, "-3");
 }
 
+TEST(ProjektableitungWithoutCaptions, EmptySelectionsMeanNothing) {
+  ProjektDesk desk("FRA");  // a language without files: every caption is empty
+  desk.form.Ableiten();
+  EXPECT_EQ(desk.form.ableitung.pipe, 1);
+  EXPECT_EQ(desk.form.ableitung.Bezug, 5);
+  EXPECT_EQ(desk.form.ableitung.Isolier_dT, 0);
+  EXPECT_EQ(desk.form.dtVerfl, "13");
+  EXPECT_EQ(Verfluessigerart_von(desk.captions, ""), Verfluessigerart::Luft);
+}
+
 // --- Evaporator
 
 TEST_F(Projektableitung, SuperheatFollowsTheSizeWithoutTheRefrigerant) {

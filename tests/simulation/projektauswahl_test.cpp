@@ -54,6 +54,7 @@ TEST_P(Projektauswahl, NumbersAndClasses) {
   EXPECT_EQ(form.Auswahl("DT_v_combo"),
             (Texts{"3", "4", "5", "6", "7", "8", "9", "10", "11", "12"}));
   EXPECT_EQ(form.Auswahl("VERFL_Eff_combo"), (Texts{"A+", "A", "B", "C", "D", "E", "F"}));
+  EXPECT_EQ(form.Auswahl("ErP_Vers"), (Texts{"2016", "2018"}));
   EXPECT_EQ(form.Auswahl("Lamm_AB_combo"), (Texts{"4", "7", "10", "12"}));
   EXPECT_EQ(form.Auswahl("WinterRGart").front(), desk.p(15));
   EXPECT_EQ(form.Auswahl("KaelteM").size(), KM_Katalog().size());

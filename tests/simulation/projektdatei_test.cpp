@@ -109,6 +109,18 @@ TEST_F(Projektdatei, BareNameIsSoughtInTheDataFolder) {
   EXPECT_EQ(form.Dateiname_aktuell, "only-in-data.prj");
 }
 
+TEST_F(Projektdatei, BareNameIsSoughtInTheCurrentFolderFirst) {
+  desk.write_project("a.prj", "SIM_PRO", with(2, "1"));
+  desk.write_project("plants/a.prj", "SIM_PRO", with(2, "2"));
+  const fs::path before = fs::current_path();
+  fs::current_path(plants());
+  const bool opened = form.Projekt_Oeffnen("SIM_PRO", "a.prj");
+  fs::current_path(before);
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(form.Q0, "2");
+  EXPECT_EQ(form.Projektordner, "./");
+}
+
 TEST_F(Projektdatei, BinaryFileIsRefused) {
   std::string bytes;
   for (int i = 0; i < 4096; ++i) bytes += static_cast<char>(i * 37 % 256);
