@@ -21,7 +21,14 @@ struct Wuensche {
 
 // The month table on disk, or one made for the project's place; false where that can't be written.
 bool kurs_bereit(Programm& p, const Wuensche& w, Terminalfortschritt& fortschritt) {
-  if (!w.neuer_Kurs && Kurs_passt(p.ablage, p.projekt)) return true;
+  if (!w.neuer_Kurs && Kurs_passt(p.ablage, p.projekt)) {
+    // The humidity is found by the month's name.
+    if (Monatstabelle_lesen(p.ablage).monate[0].Monat != p.captions.monat(1))
+      melde(
+          "The annual course (JG_Temp.dat) was made in another language: its months have no "
+          "humidity. --new-course makes it anew.");
+    return true;
+  }
   if (!Kurs_machen(p.klima, p.projekt)) {
     melde(grund(p.ablage, "The annual course (JG_Temp.dat) could not be written."));
     return false;
