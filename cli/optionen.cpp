@@ -46,17 +46,15 @@ std::string text_von(const std::string& name, const Json& wert) {
   throw Abbruch("The option \"" + name + "\" must be a text, a number, true or false.");
 }
 
-void rechart_setzen(const Json& wert, const std::string& text, Projektdaten& projekt) {
-  if (wert.is_string()) {
-    projekt.aendern("Rechart_combo", text);
-    const auto arten = projekt.Rechart_Auswahl();
-    const bool bekannt =
-        std::ranges::any_of(arten, [&](const std::string& art) { return gleich(art, text); });
-    if (!bekannt)
-      melde("\"" + text + "\" is none of the kinds of calculation; it counts as a year's run.");
-  } else {
+void rechart_setzen(const std::string& text, Projektdaten& projekt) {
+  if (text == "0" || text == "1") {
     projekt.aendern("Rechart", text);
+    return;
   }
+  projekt.aendern("Rechart_combo", text);
+  const auto arten = projekt.Rechart_Auswahl();
+  if (std::ranges::none_of(arten, [&](const std::string& art) { return gleich(art, text); }))
+    melde("\"" + text + "\" is none of the kinds of calculation; it counts as a year's run.");
 }
 
 }  // namespace
@@ -75,7 +73,7 @@ void optionen_lesen(const std::string& datei, Projektdaten& projekt) {
   for (const auto& [name, wert] : json.items()) {
     const std::string text = text_von(name, wert);
     if (name == "Rechart_combo")
-      rechart_setzen(wert, text, projekt);
+      rechart_setzen(text, projekt);
     else
       projekt.aendern(name, text);
   }

@@ -64,7 +64,7 @@ void speichern(Sitzung& sitzung, const Wuensche& w) {
   if (ProjSpeich(projekt, browser, w.tag) == Speicherung::gespeichert)
     gespeichert(pfad);
   else
-    sitzung.fehler("The project was not saved; what was there stays as it was.");
+    sitzung.fehler("The project could not be saved as a whole.");
 }
 
 // Load module or compressor tool: only their own part comes back to the data folder.

@@ -63,7 +63,9 @@ std::unique_ptr<Programm> Sitzung::Innen::starten(const Optionen& optionen) {
                   "\" is not there. Give the path of an existing folder.");
   const std::string ordner = ohne_trenner(gegeben ? optionen.data : Datenordner_Finden(0));
   auto p = std::make_unique<Programm>(ordner, dialog);
-  if (optionen.verbose) p->meldungen.setze_hoerer([](const std::string& zeile) { melde(zeile); });
+  if (optionen.verbose)
+    p->meldungen.setze_hoerer(
+        [](const std::string& zeile) { std::fputs((zeile + "\n").c_str(), stderr); });
   p->einstellungen.Parameter_Lesen();
   if (!gegeben && p->einstellungen.erster_Start)
     Datenordner_Fuellen(Lieferordner(programmpfad), ordner);
