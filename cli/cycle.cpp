@@ -23,7 +23,7 @@ struct Anfrage {
   double t_s = leer;  ///< empty: `t0` and the superheat
   double dT_sc = 3;
   double Q0 = 10;
-  double P_hoch = leer;  ///< empty: the optimum
+  double P_hoch = 0;  ///< 0: not set, the cycle then takes its own
   int Bauart = 0, Antrieb = 0;
   bool json = false;
 };
@@ -39,10 +39,7 @@ void vorgeben(KMZustand& z, const Anfrage& a) {
   z.Q0 = a.Q0;
   z.Bauart = a.Bauart;
   z.Antrieb = a.Antrieb;
-  if (!ist_leer(a.P_hoch))
-    z.P_hoch = a.P_hoch;
-  else if (const double optimum = Kaeltemittel::CO2_pOpt(a.tc); optimum > 0)
-    z.P_hoch = optimum;
+  z.P_hoch = a.P_hoch;
 }
 
 Ergebnis punkt(Kreis& kreis, const Anfrage& a) {
@@ -120,7 +117,7 @@ void optionen_anmelden(CLI::App& befehl, Anfrage& a) {
   zahl_option(befehl, "--subcooling", a.dT_sc, "Subcooling, K (3); R744 has its own");
   zahl_option(befehl, "--q0", a.Q0, "Cooling capacity, kW (10)");
   zahl_option(befehl, "--p-high", a.P_hoch,
-              "High pressure of transcritical R744, bar absolute (the optimum)");
+              "High pressure of transcritical R744, bar absolute (90)");
   befehl.add_option("--bauart", a.Bauart, "Compressor design, 0 to 4 (0)")->check(CLI::Range(0, 4));
   befehl.add_option("--antrieb", a.Antrieb, "Compressor drive, 0 to 3 (0)")
       ->check(CLI::Range(0, 3));

@@ -82,14 +82,14 @@ void zahlen_anhaengen(Json& json, const Zahlfeld<Satz> (&felder)[n], const Satz&
   for (const auto& f : felder) json[f.name] = zahl(satz.*f.feld);
 }
 
-Json meps_json(const MEPS& m) {
+void meps_anhaengen(Json& json, const MEPS& m) {
   Json marken = Json::array();
   for (double marke : m.marken) marken.push_back(zahl(marke));
-  return {{"MEPS", zahl(m.wert)},
-          {"marks", marken},
-          {"MEPS_Ist", zahl(m.Ist)},
-          {"position", zahl(m.position)},
-          {"green", zahl(m.gruen_ab)}};
+  json["MEPS"] = zahl(m.wert);
+  json["MEPS_label"] = marken;
+  json["MEPS_Ist"] = zahl(m.Ist);
+  json["MEPS_position"] = zahl(m.position);
+  json["MEPS_green"] = zahl(m.gruen_ab);
 }
 
 Json tabelle_json(const std::vector<Ergebniszeile>& zeilen) {
@@ -121,7 +121,7 @@ Json rechnung_json(const Rechnung& r, const Projektdaten& projekt) {
   zahlen_anhaengen(json, kSummen, r.lauf.summen);
   json["Q_WW_Tag"] = zahl(r.lauf.Q_WW_Tag);
   json["t_abtau"] = zahl(r.lauf.t_abtau);
-  json["MEPS"] = meps_json(r.ergebnis.meps);
+  meps_anhaengen(json, r.ergebnis.meps);
   json["shares"] = Json::object();
   zahlen_anhaengen(json["shares"], kAnteile, r.ergebnis);
   json["ERG_Spread"] = tabelle_json(ERG_Spread(projekt, r.lauf, r.ergebnis));

@@ -81,7 +81,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Punkt punkt(p.kreis, p.captions, p.dialog);
   punkt.Hub_Volumen_gegeben = w.volumen;
   Anlage anlage = Anlage_von(projekt);
-  const Punktwerte& werte = punkt.Punkt_Rechnen(anlage, w.modus, kVolllast, leer);
+  const Punktwerte& werte = punkt.Punkt_Rechnen(anlage, w.modus, kVolllast, 100 * kVolllast);
   const Json json = punkt_json(werte, p.km.z, projekt.WinterRGart);
   if (w.json)
     drucke(json);

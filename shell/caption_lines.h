@@ -28,7 +28,18 @@ enum class SoleCapt { Kaeltemittel = 4, Trockenkuehler = 24 };
 
 /// `Caption.<language>`: general texts.
 enum class Caption {
+  Energiesimulation = 1,
+  Diagnose = 2,
+  Fernueberwachung = 3,
+  Vorgaben = 4,
+  Druckeinstellung = 5,
+  Drucken = 6,
+  Information = 7,
+  Hilfe = 8,
+  Ende = 9,
   Projekt = 25,
+  Ende_Frage = 38,
+  Projektname_fehlt = 44,
   Unter_tmin = 53,
   Ueber_tmax = 54,
   Tc_unter_t0 = 55,

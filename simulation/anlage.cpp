@@ -4,34 +4,35 @@
 #include <cmath>
 
 #include "shell/text.h"
+#include "simulation/auswahltexte.h"
 
 namespace polarkreis {
 
 Regelart Regelart_von(const Captions& captions, std::string_view text) {
-  if (gleich(text, captions.text(JMapCap::Regelung_Drehzahl))) return Regelart::Drehzahl;
-  if (gleich(text, captions.text(JMapCap::Regelung_ohne))) return Regelart::ohne;
-  if (gleich(text, captions.text(JMapCap::Regelung_Stufen))) return Regelart::Stufen;
-  if (gleich(text, captions.text(JMapCap::Regelung_zwei_Drehzahlen))) {
+  if (benennt(captions.text(JMapCap::Regelung_Drehzahl), text)) return Regelart::Drehzahl;
+  if (benennt(captions.text(JMapCap::Regelung_ohne), text)) return Regelart::ohne;
+  if (benennt(captions.text(JMapCap::Regelung_Stufen), text)) return Regelart::Stufen;
+  if (benennt(captions.text(JMapCap::Regelung_zwei_Drehzahlen), text)) {
     return Regelart::zwei_Drehzahlen;
   }
-  if (gleich(text, captions.text(JMapCap::Regelung_stetig))) return Regelart::stetig;
+  if (benennt(captions.text(JMapCap::Regelung_stetig), text)) return Regelart::stetig;
   return Regelart::keine;
 }
 
 namespace {
 
 int Bauart_von(const Captions& captions, std::string_view typ) {
-  if (gleich(typ, captions.text(Caption::Hubkolben))) return 1;
-  if (gleich(typ, captions.text(Caption::Schraube))) return 2;
+  if (benennt(captions.text(Caption::Hubkolben), typ)) return 1;
+  if (benennt(captions.text(Caption::Schraube), typ)) return 2;
   if (gleich(typ, "Scroll")) return 3;
   if (gleich(typ, "Turbo")) return 4;
   return 0;
 }
 
 int Antrieb_von(const Captions& captions, std::string_view bauform) {
-  if (gleich(bauform, captions.text(Caption::Offen))) return 1;
-  if (gleich(bauform, captions.text(Caption::Halbhermetisch))) return 2;
-  if (gleich(bauform, captions.text(Caption::Hermetisch))) return 3;
+  if (benennt(captions.text(Caption::Offen), bauform)) return 1;
+  if (benennt(captions.text(Caption::Halbhermetisch), bauform)) return 2;
+  if (benennt(captions.text(Caption::Hermetisch), bauform)) return 3;
   return 0;
 }
 
@@ -90,18 +91,18 @@ void Zahlen_uebernehmen(const Projektdaten& p, Anlage& a) {
 
 void Auswahlen_uebernehmen(const Projektdaten& p, Anlage& a) {
   const Captions& captions = p.captions;
-  a.Kaelteraum = gleich(p.AnwendBereich, captions.text(JMapCap::Kaelteraum)) ||
-                 gleich(p.AnwendBereich, captions.text(JMapCap::Kaelteraum_zwei));
+  a.Kaelteraum = benennt(captions.text(JMapCap::Kaelteraum), p.AnwendBereich) ||
+                 benennt(captions.text(JMapCap::Kaelteraum_zwei), p.AnwendBereich);
   a.Abtauart = p.KaltGAbt ? 2 : p.HeißGAbt ? 1 : 0;
   a.RGart = Regelart_von(captions, p.RGart);
   a.RGartL = Regelart_von(captions, p.RGartL);
   a.RGartP = Regelart_von(captions, p.RGartP);
-  const bool thermostatisch = gleich(p.Combo1, captions.text(JMapCap::Ventil_thermostatisch));
+  const bool thermostatisch = benennt(captions.text(JMapCap::Ventil_thermostatisch), p.Combo1);
   a.Ventil = thermostatisch ? Ventilart::thermostatisch : Ventilart::anderes;
   a.Verfluessiger = Verfluessigerart_von(captions, p.Vfl_typ);
   a.Bauart = Bauart_von(captions, p.verdichter_typ);
   a.Antrieb = Antrieb_von(captions, p.Verdichterbauart);
-  a.Winter_frei = gleich(p.WinterRGart, captions.text(PedCap::Ohne));
+  a.Winter_frei = benennt(captions.text(PedCap::Ohne), p.WinterRGart);
   a.tc_min = Wert(erste_zeichen(p.WinterRGart, 2));
 }
 

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "shell/text.h"
+#include "simulation/auswahltexte.h"
 
 namespace polarkreis {
 
@@ -56,9 +57,9 @@ std::span<const Stufe> Stufen(bool luft, Bereichsklasse klasse) {
 }  // namespace
 
 Bereichsklasse Bereichsklasse_von(const Captions& captions, std::string_view tempbereich) {
-  if (gleich(tempbereich, captions.text(JMapCap::Bereich_hoch))) return Bereichsklasse::hoch;
-  if (gleich(tempbereich, captions.text(JMapCap::Bereich_mittel))) return Bereichsklasse::mittel;
-  if (gleich(tempbereich, captions.text(JMapCap::Bereich_tief))) return Bereichsklasse::tief;
+  if (benennt(captions.text(JMapCap::Bereich_hoch), tempbereich)) return Bereichsklasse::hoch;
+  if (benennt(captions.text(JMapCap::Bereich_mittel), tempbereich)) return Bereichsklasse::mittel;
+  if (benennt(captions.text(JMapCap::Bereich_tief), tempbereich)) return Bereichsklasse::tief;
   return Bereichsklasse::klima;
 }
 
@@ -72,8 +73,8 @@ double MEPS_Tabelle(bool luft, Bereichsklasse klasse, double Q0, bool streng) {
 MEPS MEPS_find(const Projektdaten& projekt, std::string_view LeistZ) {
   const Captions& captions = projekt.captions;
   // Only these two texts count as air: the composed one of a dry cooler does not.
-  const bool luft = gleich(projekt.Vfl_typ, captions.text(PedCap::Luftgekuehlt)) ||
-                    gleich(projekt.Vfl_typ, captions.text(SoleCapt::Trockenkuehler));
+  const bool luft = benennt(captions.text(PedCap::Luftgekuehlt), projekt.Vfl_typ) ||
+                    benennt(captions.text(SoleCapt::Trockenkuehler), projekt.Vfl_typ);
   MEPS m;
   m.wert = MEPS_Tabelle(luft, Bereichsklasse_von(captions, projekt.Tempbereich), Wert(projekt.Q0),
                         getrimmt(projekt.ErP_Vers) == "2018");

@@ -85,15 +85,19 @@ bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte) {
   return ablage.schreib_ganz(kSubAct, je_zeile(werte.werte));
 }
 
-void SubAct_sicherstellen(Ablage& ablage, std::string_view modul) {
-  if (ablage.vorhanden(kSubAct)) return;
-  const std::string saetze = ablage.lies_ganz(kArmstd).value_or("");
-  // Without start values nothing is written: a list of empty items would count as present later.
-  if (saetze.empty()) return;
+Zusatzwerte SubAct_Startwerte(Ablage& ablage) {
   constexpr std::array<std::size_t, 6> kSaetze{24, 25, 26, 33, 34, 35};
+  const std::string saetze = ablage.lies_ganz(kArmstd).value_or("");
   Zusatzwerte zusatz;
   for (std::size_t i = 0; i < kSaetze.size(); ++i) zusatz.werte[i] = startwert(saetze, kSaetze[i]);
-  std::string inhalt = je_zeile(zusatz.werte);
+  return zusatz;
+}
+
+void SubAct_sicherstellen(Ablage& ablage, std::string_view modul) {
+  if (ablage.vorhanden(kSubAct)) return;
+  // Without start values nothing is written: a list of empty items would count as present later.
+  if (!ablage.vorhanden(kArmstd)) return;
+  std::string inhalt = je_zeile(SubAct_Startwerte(ablage).werte);
   if (modul == "MonoF") inhalt += inhalt;
   ablage.schreib_ganz(kSubAct, inhalt);
 }

@@ -30,6 +30,8 @@ struct Zusatzwerte {
 };
 Zusatzwerte SubAct_lesen(std::string&& text);
 bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte);
+/// The start values of "Armstd.rdm"; empty items where the file has none.
+Zusatzwerte SubAct_Startwerte(Ablage& ablage);
 /// Creates "SubAct.dat" from the start values of "Armstd.rdm" where it is missing or empty: its
 /// records 24 to 26 give items 1 to 3, records 33 to 35 items 4 to 6; for the run mode "MonoF" the
 /// list of values is written twice.

@@ -40,12 +40,6 @@ Kopf Kopf_lesen(Ablage& ablage, int nummer) {
   return kopf;
 }
 
-/// Old files of two modules have no tag.
-bool Kennung_passt(std::string_view kennung, std::string_view tag) {
-  if (kennung.empty()) return tag == "KOMP" || tag == "VERB";
-  return kennung == tag;
-}
-
 bool andere_Sprache(std::string_view projekt, std::string_view aktuell) {
   return zeichenzahl(getrimmt(projekt)) == 3 && !gleich(projekt, aktuell);
 }
@@ -85,6 +79,7 @@ void Projektdaten::Ersatzwerte() {
 
 void Projektdaten::Projekt_Lesen(std::string_view name, int nummer, int offen) {
   const Sperre sperre(laedt_);
+  tmin_gemerkt = 0;  // it belongs to the plant that was open before
   if (offen != 1) ablage.Datei_Lesen(name, nummer, Ordner_von(name).empty());
   // An item with a fallback takes it also where the file ends before it: the text of the project
   // that was open before must not stand in.
@@ -135,7 +130,7 @@ bool Projektdaten::Projekt_Oeffnen(std::string_view tag, std::string_view name) 
   if (!ablage.vorhanden(pfad)) return false;
   ablage.Datei_Lesen(pfad, kNummer, false);
   const Kopf kopf = Kopf_lesen(ablage, kNummer);
-  if (!Kennung_passt(kopf.Kennung, tag)) {
+  if (!Tag_passt(kopf.Kennung, tag)) {
     ablage.Datei_Schliessen(kNummer);
     return false;
   }
@@ -155,6 +150,7 @@ bool Projektdaten::Projekt_Oeffnen(std::string_view tag, std::string_view name) 
 void Projektdaten::Arbeitsprojekt_Lesen() {
   Projekt_Lesen(kArbeitsprojekt, kNummer, 0);
   Projektordner.clear();
+  Dateiname_aktuell.clear();
   energie = energk_lesen(ablage, Projektordner);
   JG_fertig = false;
 }

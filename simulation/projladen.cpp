@@ -16,8 +16,6 @@ namespace {
 constexpr std::string_view Titel = "Polarkreis";
 constexpr std::string_view Parkdatei = "VerDpark.dat";
 constexpr std::size_t Kopfitems = 4;
-// The line of `Caption` that tells of a project without a name.
-constexpr int Name_fehlt = 44;
 
 std::string_view ohne_ordner(std::string_view datei) {
   const std::size_t trenner = datei.find_last_of("/\\");
@@ -115,7 +113,7 @@ bool ProjLaden::speichern_bestaetigen() {
   }
   const std::string name = Projektdatei_Name(Dateiname);
   if (name.empty() || ist_Projektendung(ohne_ordner(name))) {
-    dialog_.zeige(captions_.text(Stamm::Caption, Name_fehlt), Titel, Symbol::hinweis);
+    dialog_.zeige(captions_.text(Caption::Projektname_fehlt), Titel, Symbol::hinweis);
     return false;
   }
   Dateiname = name;

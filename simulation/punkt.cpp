@@ -23,8 +23,8 @@ const Punktwerte& Punkt::Punkt_Rechnen(Anlage& anlage, int modus, double last_an
 
 void Punkt::vorbereiten(const Anlage& a, int modus, double last_prozent) {
   Ablage& ablage = kreis_.km.ablage();
-  zusatz_ = zusatzwerte_.hol(ablage, "SubAct.dat", [](std::optional<std::string>&& text) {
-    return SubAct_lesen(std::move(text).value_or(""));
+  zusatz_ = zusatzwerte_.hol(ablage, "SubAct.dat", [&](std::optional<std::string>&& text) {
+    return text ? SubAct_lesen(std::move(*text)) : SubAct_Startwerte(ablage);
   });
   KMZustand& z = kreis_.km.z;
   kreis_.ECO_OPT = a.ECO_OPT;

@@ -28,14 +28,14 @@ SAMPLES = {
         "KaelteM": "R448A", "Q0": "120", "t0": "-8", "AnwendBereich": "J2", "Tempbereich": "J19",
         "Verdichterbauart": "C87", "verdichter_typ": "C89", "RGart": "J43", "WinterRGart": "25 °C",
         "Land": "Germany", "Stadt": "Cologne", "Combo1": "J49", "Lueftcap": "1.8", "LueftcapVerDa": "3.2",
-        "WaterCheck": "1", "M_enth": "1500", "Tc": "49", "dtVerfl": "14", "Vfl_typ": "P27", "DT_v_combo": "8",
+        "WaterCheck": "1", "M_enth": "4000", "Tc": "49", "dtVerfl": "14", "Vfl_typ": "P27", "DT_v_combo": "8",
     },
     "CO2 supermarket.prj": {
         "ProjektNam": "CO2 supermarket", "ProBeschr": "Transcritical R744 with flash tank, hot water from the gas cooler",
         "KaelteM": "R744", "Q0": "90", "t0": "-8", "AnwendBereich": "J2", "Tempbereich": "J19",
         "AmbientT": "P2", "tambient": "30", "Verdichterbauart": "C87", "verdichter_typ": "C89", "RGart": "J41",
         "WinterRGart": "15 °C", "Land": "Denmark", "Stadt": "Copenhagen", "Combo1": "J49", "Lueftcap": "1.6",
-        "LueftcapVerDa": "2.4", "WaterCheck": "1", "M_enth": "2000", "Tc": "40.1", "dtVerfl": "10.1",
+        "LueftcapVerDa": "2.4", "WaterCheck": "1", "M_enth": "5000", "Tc": "40.1", "dtVerfl": "10.1",
         "P_gasK": "102.5", "Vfl_typ": "P27", "DT_v_combo": "8",
     },
     "Ammonia process cooling.prj": {
@@ -50,8 +50,8 @@ SAMPLES = {
         "ProjektNam": "Hotel", "ProBeschr": "Air conditioning with R290, heating and hot water by heat recovery",
         "KaelteM": "R290", "Q0": "60", "t0": "3", "AnwendBereich": "J5", "Tempbereich": "H15",
         "AnlGroesse": "H8", "Verdichterbauart": "C88", "verdichter_typ": "Scroll", "RGart": "J44",
-        "WinterRGart": "30 °C", "Land": "Austria", "Stadt": "Vienna", "Combo1": "J48", "PumpCap": "1.1",
-        "RGartP": "J41", "Lueftcap": "1.2", "LueftcapVerDa": "0", "T_heat": "40", "Q_heat": "25", "T_enth": "50",
+        "WinterRGart": "40 °C", "Land": "Austria", "Stadt": "Vienna", "Combo1": "J48", "PumpCap": "1.1",
+        "RGartP": "J41", "Lueftcap": "1.2", "LueftcapVerDa": "0", "T_heat": "32", "Q_heat": "25", "T_enth": "50",
         "M_enth": "800", "WaterCheck": "1", "Tc": "45.7", "dtVerfl": "10.7", "Vfl_typ": "P27", "DT_v_combo": "7",
     },
     "R134A chiller with free cooling.prj": {

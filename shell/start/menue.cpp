@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <optional>
 
@@ -11,8 +12,7 @@ namespace polarkreis {
 
 namespace {
 
-constexpr int Atempause = 50;   // units of waiting before and after the children close
-constexpr int Ende_Frage = 38;  // line of `Caption`
+constexpr int Atempause = 50;  // units of waiting before and after the children close
 
 std::string voller_Pfad(const std::string& ordner) {
   std::error_code fehler;
@@ -64,7 +64,7 @@ void Start::StartHelp() {
 }
 
 void Start::ende() {
-  if (!p_.dialog.frage(p_.captions.text(Stamm::Caption, Ende_Frage), Programmname)) return;
+  if (!p_.dialog.frage(p_.captions.text(Caption::Ende_Frage), Programmname)) return;
   gewaehlt = Menuepunkt::ende;
   p_.einstellungen[Einstellungen::Datenordner] = voller_Pfad(p_.ablage.Datenordner);
   if (!p_.einstellungen.Parameter_Schreiben()) zeige_fehler(p_.ablage.letzter_fehler());
@@ -75,7 +75,17 @@ void Start::ende() {
 }
 
 const std::string& Start::Beschriftung(Menuepunkt punkt) const {
-  return p_.captions.text(Stamm::Caption, static_cast<int>(punkt));
+  if (punkt == Menuepunkt::keiner) return p_.captions.text(Stamm::Caption, 0);  // no text
+  static constexpr std::array Texte = {Caption::Energiesimulation,
+                                       Caption::Diagnose,
+                                       Caption::Fernueberwachung,
+                                       Caption::Vorgaben,
+                                       Caption::Druckeinstellung,
+                                       Caption::Drucken,
+                                       Caption::Information,
+                                       Caption::Hilfe,
+                                       Caption::Ende};
+  return p_.captions.text(Texte.at(static_cast<std::size_t>(punkt) - 1));
 }
 
 bool Start::Flagge_klicken(std::string_view name) {

@@ -37,35 +37,37 @@ std::string Arbeitsprojekt_Item(Ablage& ablage, int nummer) {
 
 }  // namespace
 
+std::string Datenordner_festlegen(Programm& p, const Startangaben& angaben) {
+  const bool gegeben = !angaben.datenordner.empty();
+  Ablage& ablage = p.ablage;
+  ablage.Datenordner = ohne_Trenner(gegeben ? angaben.datenordner : angaben.gefundener_ordner);
+  p.einstellungen.Parameter_Lesen();
+  if (!gegeben && p.einstellungen.erster_Start && angaben.fuellen)
+    angaben.fuellen(ablage.Datenordner);
+  // The folder as last used leads to another one only while that is there, and only once.
+  const std::string zuletzt = ohne_Trenner(p.einstellungen[Einstellungen::Datenordner]);
+  const bool weiter = !gegeben && ist_Ordner(zuletzt);
+  if (weiter) ablage.Datenordner = zuletzt;
+  if (!ist_Ordner(ablage.Datenordner)) {
+    return gegeben ? "The data folder \"" + ablage.Datenordner +
+                         "\" is not there. Give the path of an existing folder."
+                   : std::string(Nicht_schreibbar);
+  }
+  p.meldungen.setze_ordner(ablage.Datenordner);
+  if (!gegeben && !weiter) p.meldungen.melde("start", zuletzt, "not there: found afresh");
+  return {};
+}
+
 bool Start::starten(const Startangaben& angaben) {
-  if (!Datenordner_festlegen(angaben)) return false;
+  if (const std::string fehler = Datenordner_festlegen(p_, angaben); !fehler.empty()) {
+    zeige_fehler(fehler);
+    return false;
+  }
   p_.laden(angaben.sprache);
   Uebergabe_lesen();
   Arbeitsprojekt_pruefen();
   zum_Menue();
   return true;
-}
-
-bool Start::Datenordner_festlegen(const Startangaben& angaben) {
-  const bool gegeben = !angaben.datenordner.empty();
-  Ablage& ablage = p_.ablage;
-  ablage.Datenordner = ohne_Trenner(gegeben ? angaben.datenordner : angaben.gefundener_ordner);
-  p_.einstellungen.Parameter_Lesen();
-  if (!gegeben && p_.einstellungen.erster_Start && angaben.fuellen)
-    angaben.fuellen(ablage.Datenordner);
-  // The folder as last used leads to another one only while that is there, and only once.
-  const std::string zuletzt = ohne_Trenner(p_.einstellungen[Einstellungen::Datenordner]);
-  const bool weiter = !gegeben && ist_Ordner(zuletzt);
-  if (weiter) ablage.Datenordner = zuletzt;
-  if (ist_Ordner(ablage.Datenordner)) {
-    p_.meldungen.setze_ordner(ablage.Datenordner);
-    if (!gegeben && !weiter) p_.meldungen.melde("start", zuletzt, "not there: found afresh");
-    return true;
-  }
-  zeige_fehler(gegeben ? "The data folder \"" + ablage.Datenordner +
-                             "\" is not there. Give the path of an existing folder."
-                       : std::string(Nicht_schreibbar));
-  return false;
 }
 
 void Start::Uebergabe_lesen() {

@@ -14,18 +14,18 @@
 
 namespace polarkreis {
 
-/// The buttons of the main menu; the value is the line of the button's text in `Caption`.
+/// The buttons of the main menu.
 enum class Menuepunkt {
-  keiner = 0,
-  ProjNix = 1,    ///< energy simulation
-  DiaGnos = 2,    ///< plant diagnostics
-  FTPServ = 3,    ///< remote monitoring
-  VorGab = 4,     ///< defaults
-  Printset = 5,   ///< print set-up
-  PriButt = 6,    ///< printing
-  InfoP = 7,      ///< information
-  StartHelp = 8,  ///< help
-  ende = 9
+  keiner,
+  ProjNix,    ///< energy simulation
+  DiaGnos,    ///< plant diagnostics
+  FTPServ,    ///< remote monitoring
+  VorGab,     ///< defaults
+  Printset,   ///< print set-up
+  PriButt,    ///< printing
+  InfoP,      ///< information
+  StartHelp,  ///< help
+  ende
 };
 
 /// Sibling programs of the suite.
@@ -44,6 +44,11 @@ struct Startangaben {
   /// A language for this run only; empty is the stored one.
   std::string sprache;
 };
+
+/// The first step of the start: puts the data folder in force, filled at its first start, with the
+/// shared settings that lie in it, and names it to the message log. Gives the reason if there is no
+/// such folder, else the empty text.
+std::string Datenordner_festlegen(Programm& programm, const Startangaben& angaben);
 
 /// The program's entry: start, main menu and end.
 class Start {
@@ -111,7 +116,6 @@ class Start {
   const Uebergabe& uebergabe() const { return uebergabe_; }
 
  private:
-  bool Datenordner_festlegen(const Startangaben& angaben);
   void Uebergabe_lesen();
   void Arbeitsprojekt_pruefen();
   bool Sprache_da(std::string_view code) const;

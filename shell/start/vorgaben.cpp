@@ -12,10 +12,6 @@ namespace {
 constexpr std::string_view JMapOptDatei = "JMapOpt.dat";
 constexpr std::string_view SubActDatei = "SubAct.dat";
 constexpr std::string_view Startwerte = "Armstd.rdm";
-constexpr int Startwerte_Laenge = 5;
-constexpr int Startwerte_Nummer = 90;  // file number
-// Records of "Armstd.rdm" that hold items 1 to 6 of "SubAct.dat"; the seventh has none.
-constexpr std::array<int, 6> Startwerte_Saetze = {24, 25, 26, 33, 34, 35};
 
 template <std::size_t N, std::size_t M>
 void erste_kopieren(const std::array<std::string, N>& von, std::array<std::string, M>& nach) {
@@ -46,11 +42,9 @@ void Vorgaben::StandardButt() {
     ablage.meldungen().melde("StandardButt", Startwerte, "missing: the fields of SubAct.dat stay");
     return;
   }
-  ablage.Datei_Satz(Startwerte, Startwerte_Nummer, Startwerte_Laenge);
-  for (std::size_t i = 0; i < Startwerte_Saetze.size(); ++i)
-    SubAct[i] = getrimmt(ablage.Satz_Lesen(Startwerte_Nummer, Startwerte_Saetze[i]));
-  SubAct.back() = std::string("0");
-  ablage.Datei_Schliessen(Startwerte_Nummer);
+  // The list of start values ends before the last field.
+  erste_kopieren(SubAct_Startwerte(ablage).werte, SubAct);
+  SubAct.back() = "0";
 }
 
 bool Vorgaben::Command3D2() {

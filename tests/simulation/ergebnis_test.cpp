@@ -54,12 +54,13 @@ TEST_F(Ergebnisse, SeasonalFigureIsTheMeanCOPTimesTheCompressorsShare) {
   EXPECT_DOUBLE_EQ(fuelle().LeistZ, 3.22);
 }
 
-// 100000 kWh at 0.18 and 0.58 kg: 18000, 58 t; 18000/(3.2 * 100000) = 0.05625.
+// 100000 kWh at 0.18 and 0.5 kg: 18000, 50 t; 18000/(3.2 * 100000) = 0.05625.
 TEST_F(Ergebnisse, YearsCostAndCarbonDioxide) {
+  w.projekt.energie.Spezco2emission = ".5";
   const Ergebnis e = fuelle();
   EXPECT_EQ(e.kWstunden, 100000);
   EXPECT_EQ(e.BetrKo, 18000);
-  EXPECT_EQ(e.co2consum, 58);
+  EXPECT_EQ(e.co2consum, 50);
   EXPECT_EQ(e.Kaelte_P, 0.056);
 }
 
