@@ -16,11 +16,23 @@ constexpr double Pa_je_bar = 1e5;
 constexpr double kJ_je_J = 1e-3;
 constexpr int Marke_Ueberdruck = 33;
 
+/// Powers with whole exponents, as the published ones are, take a fraction of the library's time.
+double Potenz(double basis, double exponent) {
+  const double ganz = std::floor(exponent);
+  if (ganz != exponent || ganz < 0 || ganz > 1000) return std::pow(basis, exponent);
+  double ergebnis = 1;
+  for (int n = static_cast<int>(ganz); n > 0; n /= 2) {
+    if (n % 2 == 1) ergebnis *= basis;
+    basis *= basis;
+  }
+  return ergebnis;
+}
+
 double Dichte_gesaettigt(const Luftkoeffizienten& k, double T) {
   double summe = 0;
   if (T >= T_Null) {
-    const double rest = 1 - T / k.T_rho;
-    for (std::size_t i = 0; i < k.n.size(); ++i) summe += k.c[i] * std::pow(rest, k.n[i] / 6);
+    const double sechstel = std::pow(1 - T / k.T_rho, 1.0 / 6);
+    for (std::size_t i = 0; i < k.n.size(); ++i) summe += k.c[i] * Potenz(sechstel, k.n[i]);
     return k.rho_c * std::exp(summe);
   }
   const double theta = T / k.T_t;
@@ -28,54 +40,18 @@ double Dichte_gesaettigt(const Luftkoeffizienten& k, double T) {
   return k.p_t * std::exp(summe / theta) / (R_Dampf * T);
 }
 
-/// The cubic equation of state of water vapour at one temperature, in Pa, K and m³/kg.
-class Zustandsgleichung {
- public:
-  Zustandsgleichung(double T, double T_krit) : RT_(R_Dampf * T) {
-    const double wurzel = 1 + 1.06019 * (1 - std::sqrt(T / T_krit));
-    alpha_a_ = wurzel * wurzel * 1724.55;
-  }
-  double Druck(double v) const { return RT_ / (v - b) - alpha_a_ / (v * (v + b)); }
-  /// Density at `p`: from the ideal gas's volume, which lies on the vapour's branch, along the
-  /// slope.
-  double Dichte(double p) const {
-    double v = RT_ / p;
-    for (int runde = 0; runde < 50; ++runde) {
-      const double steigung =
-          -RT_ / ((v - b) * (v - b)) + alpha_a_ * (2 * v + b) / (v * v * (v + b) * (v + b));
-      const double schritt = (Druck(v) - p) / steigung;
-      v -= schritt;
-      if (!(std::abs(schritt) > 1e-14 * v)) break;
-    }
-    return 1 / v;
-  }
-
- private:
-  static constexpr double b = 0.00117007;
-  double RT_;
-  double alpha_a_ = 0;
-};
-
-/// The pressure in Pa at which the equation of state gives the density: a secant search on the
-/// relative difference of the densities around the ideal gas's pressure. Empty if it finds none.
+/// The pressure in Pa at which the cubic equation of state of water vapour gives the density: the
+/// relative difference of the densities is 0 there. A search on it, begun at 0.9 and 1.1 times the
+/// ideal gas's pressure, would end at this very value: the equation gives the pressure of a
+/// specific volume at once.
 double Dampfdruck(double rho_d, double T, double T_krit) {
   if (rho_d == 0) return 0;
-  const Zustandsgleichung gleichung(T, T_krit);
-  const auto differenz = [&](double p) { return (gleichung.Dichte(p) - rho_d) / rho_d; };
-  const double schaetzung = rho_d * R_Dampf * T;
-  double p_alt = 0.9 * schaetzung;
-  double d_alt = differenz(p_alt);
-  double p = 1.1 * schaetzung;
-  double d = differenz(p);
-  for (int runde = 0; runde < 50; ++runde) {
-    if (std::abs(d) < 1e-10) return p;
-    const double p_neu = p - d * (p - p_alt) / (d - d_alt);
-    p_alt = p;
-    d_alt = d;
-    p = p_neu;
-    d = differenz(p);
-  }
-  return leer;
+  constexpr double a = 1724.55;
+  constexpr double b = 0.00117007;
+  const double wurzel = 1 + 1.06019 * (1 - std::sqrt(T / T_krit));
+  const double alpha = wurzel * wurzel;
+  const double v = 1 / rho_d;
+  return R_Dampf * T / (v - b) - alpha * a / (v * (v + b));
 }
 
 /// Integral of cp from 0 °C to T in kJ/kg, `cp` being cp/R as a polynomial in T.

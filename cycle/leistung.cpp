@@ -34,6 +34,7 @@ Leistungen durchgang(Kreis& kreis, const Eingang& e, double size) {
   if (e.mode == 0)
     t_d = kreis.Verd_Endtemp(size, e.p_s, e.p_d, e.t_s + nullpunkt, z.kappa) - nullpunkt;
   const double h_1 = e.h_v0 + (e.t_s - (e.T0 - nullpunkt)) * z.cp_v0;
+  if (!std::isfinite(t_d) || !std::isfinite(h_1)) return {};  // before the table is asked
   const bool zweistufig = z.Zweistufig == 1 || z.Zweistufig == 2;
   if (zweistufig && e.Tc >= 304.15 && km.ist_CO2()) return aus_CO2_Tabelle(km, e, h_1, t_d);
   const double h_2 = e.h_vc + z.cp_d * (t_d - (e.Tc - nullpunkt));

@@ -19,9 +19,8 @@ namespace {
 
 constexpr std::uint32_t Ereignisse = IN_MODIFY | IN_ATTRIB | IN_CLOSE_WRITE | IN_CREATE |
                                      IN_DELETE | IN_MOVE | IN_DELETE_SELF | IN_MOVE_SELF;
-/// After one of these the watch sees no more, or not all.
-constexpr std::uint32_t Verlust =
-    IN_Q_OVERFLOW | IN_IGNORED | IN_UNMOUNT | IN_DELETE_SELF | IN_MOVE_SELF;
+/// After one of these the watch sees no more. (Notices lost to a full queue are one change.)
+constexpr std::uint32_t Verlust = IN_IGNORED | IN_UNMOUNT | IN_DELETE_SELF | IN_MOVE_SELF;
 
 /// Local file systems, where every change goes through this system.
 bool sagt_jede_aenderung(const std::string& ordner) {

@@ -13,7 +13,7 @@ namespace polarkreis {
 /// for each file. It sees what any program does to the folder's files under their names there. It
 /// doesn't see a write through a memory mapping before its file is closed, nor one through a second
 /// name elsewhere: the file store trusts it only for files that had one name when they were read. A
-/// watch that lost track (overflow, folder moved, removed or put elsewhere) tells a change at every
+/// watch that lost track (folder moved, removed or put elsewhere) tells a change at every
 /// question.
 std::unique_ptr<Aenderungswache> Dateiwache_machen(const std::string& ordner);
 

@@ -80,8 +80,8 @@ double JahresLauf::feuchtkugel(const Anlage& a) {
 
 /// Hot water from the desuperheater.
 void JahresLauf::warmwasser(const Anlage&, Jahressummen& s) {
-  const double anteil = ((s_.t_d - heiz_.dT_WW) - s_.tc) / (s_.t_d - s_.tc);
-  setze(s_.P_WW_verf, geschnitten(s_.Q_K * s_.last / 100 * anteil));
+  setze(s_.anteil, ((s_.t_d - heiz_.dT_WW) - s_.tc) / (s_.t_d - s_.tc));
+  setze(s_.P_WW_verf, geschnitten(s_.Q_K * s_.last / 100 * s_.anteil));
   setze(s_.deckung, Int(s_.P_WW_verf / P_WW_ * 1000) / 10);
   s_.deckung = std::min(s_.deckung, 100.0);
   s.Q_Wasser += s_.P_WW_verf * s_.tage;
@@ -112,7 +112,8 @@ void JahresLauf::heizen(const Anlage& a, Jahressummen& s) {
       s_.WW_Tag = 0;
     }
   }
-  setze(s_.k, std::max(s_.P_H / s_.last_heiz, 0.0));
+  setze(s_.k, s_.P_H / s_.last_heiz);
+  s_.k = std::max(s_.k, 0.0);
   s.Q_Heiz += s_.k >= 1 ? s_.last_heiz : s_.k * s_.last_heiz;
   s.Q_Heiz_Bedarf += s_.last_heiz;
 }

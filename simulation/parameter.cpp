@@ -63,14 +63,8 @@ bool JMapOpt_schreiben(Ablage& ablage, const Druckdifferenzen& werte) {
   return ablage.schreib_ganz(kJMapOpt, je_zeile(werte.werte));
 }
 
-double Zusatzwerte::Ueberhitzung_Zusatz() const {
-  return Wert(werte[1]);
-}
-double Zusatzwerte::Unterkuehlung() const {
-  return Wert(werte[2]);
-}
-double Zusatzwerte::dT_Innen_WT() const {
-  return Wert(werte[3]);
+Zusatzzahlen Zusatzwerte::zahlen() const {
+  return {Wert(werte[1]), Wert(werte[2]), Wert(werte[3])};
 }
 
 Zusatzwerte SubAct_lesen(std::string&& text) {

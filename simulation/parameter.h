@@ -19,14 +19,20 @@ struct Druckdifferenzen {
 Druckdifferenzen JMapOpt_lesen(std::string&& text);
 bool JMapOpt_schreiben(Ablage& ablage, const Druckdifferenzen& werte);
 
+/// What the run takes of "SubAct.dat", in K.
+struct Zusatzzahlen {
+  double Ueberhitzung_Zusatz = 0;
+  double Unterkuehlung = 0;
+  double dT_Innen_WT = 0;
+};
+
 /// "SubAct.dat": eleven items; the run takes items 2 to 4, the dialog edits the first seven, the
 /// last four are kept.
 struct Zusatzwerte {
   static constexpr int Itemzahl = 11;
   std::array<std::string, Itemzahl> werte;
-  double Ueberhitzung_Zusatz() const;  ///< item 2, K
-  double Unterkuehlung() const;        ///< item 3, K
-  double dT_Innen_WT() const;          ///< item 4, K
+  /// Items 2 to 4.
+  Zusatzzahlen zahlen() const;
 };
 Zusatzwerte SubAct_lesen(std::string&& text);
 bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte);

@@ -24,7 +24,7 @@ const Punktwerte& Punkt::Punkt_Rechnen(Anlage& anlage, int modus, double last_an
 void Punkt::vorbereiten(const Anlage& a, int modus, double last_prozent) {
   Ablage& ablage = kreis_.km.ablage();
   zusatz_ = zusatzwerte_.hol(ablage, "SubAct.dat", [&](std::optional<std::string>&& text) {
-    return text ? SubAct_lesen(std::move(*text)) : SubAct_Startwerte(ablage);
+    return (text ? SubAct_lesen(std::move(*text)) : SubAct_Startwerte(ablage)).zahlen();
   });
   KMZustand& z = kreis_.km.z;
   kreis_.ECO_OPT = a.ECO_OPT;
@@ -48,9 +48,8 @@ void Punkt::vorbereiten(const Anlage& a, int modus, double last_prozent) {
 /// temperature.
 void Punkt::saugzustand(const Anlage& a) {
   const KMZustand& z = kreis_.km.z;
-  setze(w_.t_saug,
-        w_.t0_eff + w_.superheat + a.ableitung.Isolier_dT + zusatz_.Ueberhitzung_Zusatz());
-  subcooling_ = zusatz_.Unterkuehlung();
+  setze(w_.t_saug, w_.t0_eff + w_.superheat + a.ableitung.Isolier_dT + zusatz_.Ueberhitzung_Zusatz);
+  subcooling_ = zusatz_.Unterkuehlung;
   double verworfen = subcooling_;
   if (a.CO2 && w_.tc_eff > w_.t0_eff + 8) {
     kreis_.KreisPunkt(w_.t0_eff, w_.t0_eff + 7, w_.t_saug, verworfen);
@@ -58,8 +57,8 @@ void Punkt::saugzustand(const Anlage& a) {
     kreis_.KreisPunkt(w_.t0_eff, w_.tc_eff, w_.t_saug, verworfen);
   }
   if (a.Check3D1) {
-    subcooling_ = zusatz_.Unterkuehlung() + zusatz_.dT_Innen_WT();
-    setze(w_.t_saug, w_.t_saug + zusatz_.dT_Innen_WT() * (z.cp_l / z.cp_v0));
+    subcooling_ = zusatz_.Unterkuehlung + zusatz_.dT_Innen_WT;
+    setze(w_.t_saug, w_.t_saug + zusatz_.dT_Innen_WT * (z.cp_l / z.cp_v0));
   }
 }
 

@@ -80,9 +80,9 @@ class Punkt {
   Punktwerte w_;
   double Q0_ = 0;  // capacity in force for this point
   double subcooling_ = 0;
-  Zusatzwerte zusatz_;
+  Zusatzzahlen zusatz_;
   Dateikopie<Druckdifferenzen> druckdifferenzen_;
-  Dateikopie<Zusatzwerte> zusatzwerte_;
+  Dateikopie<Zusatzzahlen> zusatzwerte_;
 };
 
 }  // namespace polarkreis

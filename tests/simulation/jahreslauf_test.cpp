@@ -234,6 +234,27 @@ TEST_F(Jahr, HeatingAloneClearsTheHotWater) {
       1e-9);
 }
 
+// A mild night gives no demand: the division fails, and the share keeps the hour before.
+TEST_F(Jahr, WithoutDemandTheHeatingShareKeepsItsValue) {
+  w.projekt.WaterCheck = "0";
+  w.projekt.HeizCheck = true;
+  w.projekt.Q_heat = "2000";
+  w.projekt.T_heat = "70";  // above the discharge temperature: less than nothing is available
+  rechne("16", "14", "80");
+  double vorher = 0;
+  int ohne_bedarf = 0;
+  for (const Stundenwerte& s : stunden.stunden) {
+    if (s.last_heiz == 0) {
+      EXPECT_EQ(s.k_Heiz, vorher);
+      ++ohne_bedarf;
+    } else {
+      EXPECT_DOUBLE_EQ(s.k_Heiz, std::max(s.P_H / s.last_heiz, 0.0));
+    }
+    vorher = s.k_Heiz;
+  }
+  EXPECT_GT(ohne_bedarf, 0);
+}
+
 TEST_F(Jahr, UsersValuesComeBackAfterTheYear) {
   w.oeffne("CO2 supermarket.prj");
   const Laufergebnis e = rechne();

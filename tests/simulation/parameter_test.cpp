@@ -63,9 +63,9 @@ TEST_F(Parameter, PressureDifferencesStandOneALine) {
 
 TEST_F(Parameter, RunTakesItemsTwoToFour) {
   const Zusatzwerte z = SubAct_lesen("\"9\"\r\n\"1,5\"\r\n\"2\"\r\n\"5\"\r\n");
-  EXPECT_EQ(z.Ueberhitzung_Zusatz(), 1.5);
-  EXPECT_EQ(z.Unterkuehlung(), 2);
-  EXPECT_EQ(z.dT_Innen_WT(), 5);
+  EXPECT_EQ(z.zahlen().Ueberhitzung_Zusatz, 1.5);
+  EXPECT_EQ(z.zahlen().Unterkuehlung, 2);
+  EXPECT_EQ(z.zahlen().dT_Innen_WT, 5);
 }
 
 TEST_F(Parameter, ElevenItemsSurviveARewrite) {
