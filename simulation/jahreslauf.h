@@ -136,7 +136,8 @@ class JahresLauf {
     double T_Tag = 0, T_Nacht = 0, Last_Tag = 0, Last_Nacht = 0, R = leer, tage = 30.63;
     double last = 0, dt_c = 0, t_luft = 0, phi = 0, tc = 0, faktor = 1, wasser_an = 0;
     double COP = leer, t_d = leer, Q_K = 0;
-    double anteil = 0, P_WW_verf = 0, deckung = 0, last_heiz = 0, P_H = 0, k = 0, WW_Tag = 0, WW_Anteil = 0;
+    double anteil = 0, P_WW_verf = 0, deckung = 0, last_heiz = 0, P_H = 0, k = 0, WW_Tag = 0,
+           WW_Anteil = 0;
     double P_el = 0, e_verd = 0, P_ab = 0, f = 0, P_L = 0, P_VDa = 0, P_Pumpe = 0;
     double E_negativ = 0, E_ohne_Last = 0;
   };
