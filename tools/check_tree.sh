@@ -9,7 +9,7 @@ clang-format --dry-run -Werror "${files[@]}"
 awk '
   FNR == 1 { if (lines > 600) { print file ": " lines " lines, at most 600"; bad = 1 } file = FILENAME; inside = 0 }
   { lines = FNR }
-  !inside && /^[^ #\/}].*\{$/ && !/^(namespace|extern)/ && !/^(class|struct|enum|union)/ && !/=\s*\{$/ {
+  !inside && /^[^ #\/}].*\{$/ && !/^(namespace|extern)/ && !/^(class|struct|enum|union)/ && !/=[ \t]*\{$/ {
     inside = 1; begin = FNR; head = $0
   }
   inside && /^\}/ {
