@@ -35,6 +35,14 @@ std::size_t kopf_ende(std::string_view text) {
   return text.size();
 }
 
+std::string_view zeilen_in(const std::string& bytes) {
+  return std::string_view(bytes).substr(kopf_ende(bytes));
+}
+
+bool nur_leerraum(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 std::string typmarke(std::string_view kopf) {
   const std::string text = als_utf8(std::string(kopf));
   ItemLeser leser(text);
@@ -57,13 +65,24 @@ std::string_view Lastdatei(std::string_view marke) {
   return {};
 }
 
+bool Lastprojekt_ohne_Zeilen(Ablage& ablage, std::string_view projektdatei) {
+  const std::optional<std::string> bytes = bytes_lesen(ablage, projektdatei);
+  return bytes && nur_leerraum(zeilen_in(*bytes));
+}
+
 bool Lastprojekt_Oeffnen(Ablage& ablage, std::string_view projektdatei) {
   const std::optional<std::string> bytes = bytes_lesen(ablage, projektdatei);
   if (!bytes) return false;
-  const std::size_t ende = kopf_ende(*bytes);
-  const std::string_view datei = Lastdatei(typmarke(std::string_view(*bytes).substr(0, ende)));
+  const std::string_view zeilen = zeilen_in(*bytes);
+  const std::string_view kopf = std::string_view(*bytes).substr(0, bytes->size() - zeilen.size());
+  const std::string_view datei = Lastdatei(typmarke(kopf));
   if (datei.empty()) return false;
-  return ablage.schreib_ganz(datei, std::string_view(*bytes).substr(ende));
+  if (nur_leerraum(zeilen)) {
+    ablage.meldungen().melde("Lastprojekt_Oeffnen", projektdatei,
+                             "nothing behind its heading: the load file stays as it is");
+    return false;
+  }
+  return ablage.schreib_ganz(datei, zeilen);
 }
 
 bool Lastprojekt_Speichern(Ablage& ablage, std::string_view projektdatei, std::string_view name,

@@ -14,8 +14,12 @@ namespace polarkreis {
 /// for any other.
 std::string_view Lastdatei(std::string_view marke);
 
+/// True for a readable project with nothing but blanks and line ends behind its heading.
+bool Lastprojekt_ohne_Zeilen(Ablage& ablage, std::string_view projektdatei);
+
 /// Copies the lines behind the heading to the load file of the project's type mark. False, and
-/// nothing changed, if the project can't be read, has no such mark, or the file can't be written.
+/// nothing changed, if the project can't be read, has no such mark or no lines (the message log
+/// tells that), or the file can't be written.
 bool Lastprojekt_Oeffnen(Ablage& ablage, std::string_view projektdatei);
 
 /// Writes the project anew: a heading of name, description, an empty item and the mark, and the
