@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "konsole.h"
 #include "shell/text.h"
 
 namespace polarkreis::cli {
@@ -13,6 +14,8 @@ namespace {
 
 constexpr std::size_t kNachkommastellen = 2;
 constexpr std::string_view kAbstand = "  ";
+// Wider cells would only tear the table apart; JSON has them whole.
+constexpr std::size_t kZellbreite = 200;
 
 bool ist_zahl(std::string_view text) {
   double value = 0;
@@ -75,7 +78,10 @@ void drucke(const Json& json, bool einzeilig) {
   std::fputc('\n', stdout);
 }
 
-void drucke(const Tabelle& tabelle) {
+void drucke(const Tabelle& roh) {
+  Tabelle tabelle = roh;
+  for (auto& zeile : tabelle.zeilen)
+    for (std::string& zelle : zeile) zelle = sichtbar(gekuerzt(zelle, kZellbreite));
   const std::vector<Spalte> spalten = spalten_von(tabelle);
   if (!tabelle.kopf.empty()) drucke_zeile(tabelle.kopf, spalten);
   for (const auto& zeile : tabelle.zeilen) drucke_zeile(zeile, spalten);

@@ -19,7 +19,8 @@ Json zahl(double value);
 /// UTF-8 are replaced.
 void drucke(const Json& json, bool einzeilig = false);
 
-/// Prints a table for people: columns as wide as their texts, numbers to the right.
+/// Prints a table for people: columns as wide as their texts, numbers to the right. Cells may hold
+/// texts of files: they are shown without control characters, and overlong ones are shortened.
 struct Tabelle {
   std::vector<std::string> kopf;
   std::vector<std::vector<std::string>> zeilen;

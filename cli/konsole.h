@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "shell/dialog.h"
@@ -32,7 +34,15 @@ class Terminalfortschritt : public Fortschritt {
   bool gezeigt_ = false;
 };
 
-/// One line on standard error with the program's name before it.
+/// The text without what a terminal would obey: control characters and escape sequences show as
+/// "?".
+std::string sichtbar(std::string_view text);
+/// The first characters of a longer text, with "..." behind them.
+std::string gekuerzt(std::string_view text, std::size_t zeichen = 60);
+
+/// One line on standard error with the program's name before it. Texts of files may stand in it:
+/// what isn't visible is replaced, and overlong words and lines are shortened in the middle, so
+/// that the message around them stays.
 void melde(std::string_view text);
 
 }  // namespace polarkreis::cli
