@@ -92,10 +92,9 @@ void als_tabelle(const KMZustand& z, const Ergebnis& e) {
 
 void rechnen(Sitzung& sitzung, const Anfrage& anfrage) {
   Programm& p = sitzung.programm();
-  stoff_waehlen(p.km, p.captions, anfrage.stoff);
+  stoff_waehlen(p, anfrage.stoff);
   if (!p.km.KM_Tabelle_da())
-    throw Abbruch(fehlertext(Fehler::Datei_fehlt) +
-                  "\r\nR744 needs CO2_sh01.dat in the data folder.");
+    throw Abbruch(fehlertext(Fehler::Datei_fehlt) + "\r\n" + tabelle_fehlt(p));
   grenzen_pruefen(p.km, p.captions, anfrage.t0, anfrage.tc);
   p.km.z.Klammer = {};  // so that no row of another search stands in
   const Ergebnis e = punkt(p.kreis, anfrage);

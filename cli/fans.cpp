@@ -3,14 +3,16 @@
 
 #include "ausgabe.h"
 #include "projektwahl.h"
+#include "punktlauf.h"
 #include "simulation/bewertung.h"
-#include "simulation/jahreslauf.h"
 #include "sitzung.h"
 #include "zahlen.h"
 
 namespace polarkreis::cli {
 
 namespace {
+
+constexpr int kVerfluessiger_Klasse = 11, kVerdampfer_Klasse = 21;
 
 struct Wuensche {
   int code = 0;
@@ -45,20 +47,22 @@ void drucke_ergebnis(const Ventilatorklasse& v, double COP, const Wuensche& w) {
   drucke(tabelle);
 }
 
+void leistung_verlangen(const Projektdaten& projekt, int code) {
+  if (code == kVerfluessiger_Klasse && !(Wert(projekt.Lueftcap) > 0))
+    throw Abbruch("There is no fan power to judge; code 12 gives one from a class.");
+  if (code == kVerdampfer_Klasse && !(Wert(projekt.LueftcapVerDa) > 0))
+    throw Abbruch("There is no fan power to judge; code 22 gives one from a class.");
+}
+
 void ausfuehren(Sitzung& sitzung, Wuensche& w) {
   Programm& p = sitzung.programm();
   Projektdaten& projekt = projekt_laden(sitzung, w.projekt);
   felder_setzen(projekt, w);
   w.lamellen = projekt.Lamm_AB_combo;
-  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog});
-  if (lauf.pruefen(projekt) != Laufende::fertig) {
-    sitzung.fehler("The fans were not judged.");
-    return;
-  }
-  SubAct_sicherstellen(p.ablage, "SIM_PRO");
-  p.kreis.modul = "SIM_PRO";
-  Punkt punkt(p.kreis, p.captions, p.dialog);
+  leistung_verlangen(projekt, w.code);
+  Punkt punkt = punkt_bereit(p, projekt, "The fans were not judged.");
   const Ventilatorklasse v = Eff_class(punkt, projekt, w.code);
+  COP_verlangen(punkt.werte());
   drucke_ergebnis(v, punkt.werte().COP, w);
 }
 

@@ -1,11 +1,9 @@
 #include "optionen.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string_view>
 
 #include "ausgabe.h"
 #include "konsole.h"
@@ -16,16 +14,7 @@ namespace polarkreis::cli {
 
 namespace {
 
-constexpr std::array<std::string_view, 10> kNamen{
-    "HeizCheck", "FreeC_Check", "ParaL_Check", "Check3D1",      "ECO_OPT",
-    "Gleitopt",  "ErP_Vers",    "t_K_wasser",  "Lamm_AB_combo", "Rechart_combo"};
 constexpr std::uintmax_t kGroesse_hoechstens = 1'000'000;
-
-std::string namensliste() {
-  std::string liste;
-  for (std::string_view name : kNamen) liste += (liste.empty() ? "" : ", ") + std::string(name);
-  return liste;
-}
 
 std::string inhalt_von(const std::string& datei) {
   std::error_code fehler;
@@ -59,15 +48,22 @@ void rechart_setzen(const std::string& text, Projektdaten& projekt) {
 
 }  // namespace
 
+std::string steuernamen() {
+  std::string liste;
+  for (std::string_view name : kSteuernamen)
+    liste += (liste.empty() ? "" : ", ") + std::string(name);
+  return liste;
+}
+
 void optionen_lesen(const std::string& datei, Projektdaten& projekt) {
   const Json json = Json::parse(inhalt_von(datei), nullptr, false);
   if (!json.is_object())
     throw Abbruch("The options file \"" + datei +
-                  "\" is no JSON object. It holds any of: " + namensliste() + ".");
+                  "\" is no JSON object. It holds any of: " + steuernamen() + ".");
   for (const auto& [name, wert] : json.items()) {
-    if (std::ranges::find(kNamen, name) == kNamen.end())
+    if (std::ranges::find(kSteuernamen, name) == kSteuernamen.end())
       throw Abbruch("The options file \"" + datei + "\" has an unknown name \"" + name +
-                    "\". The names are: " + namensliste() + ".");
+                    "\". The names are: " + steuernamen() + ".");
     text_von(name, wert);
   }
   for (const auto& [name, wert] : json.items()) {

@@ -5,6 +5,7 @@
 #include "ergebnis_json.h"
 #include "optionen.h"
 #include "projektwahl.h"
+#include "punktlauf.h"
 #include "sitzung.h"
 #include "zahlen.h"
 
@@ -56,8 +57,7 @@ void drucke_fuer_leute(const Projektdaten& projekt, const Json& punkt) {
       {"dp_d", "Discharge line loss", "mbar"},
       {"tmin", "Lowest condensing temperature", "°C"},
   };
-  std::printf("%s, %s kW, %s/%s °C\n\n", projekt.KaelteM.c_str(), projekt.Q0.c_str(),
-              projekt.t0.c_str(), projekt.Tc.c_str());
+  std::printf("%s\n\n", auslegung_text(projekt).c_str());
   Tabelle tabelle;
   for (const Zeile& z : kZeilen)
     if (punkt[z.name].is_number())
@@ -71,17 +71,11 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Programm& p = sitzung.programm();
   Projektdaten& projekt = projekt_laden(sitzung, w.projekt);
   if (!w.optionen.empty()) optionen_lesen(w.optionen, projekt);
-  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog});
-  if (lauf.pruefen(projekt) != Laufende::fertig) {
-    sitzung.fehler("The point was not worked out.");
-    return;
-  }
-  SubAct_sicherstellen(p.ablage, "SIM_PRO");
-  p.kreis.modul = "SIM_PRO";
-  Punkt punkt(p.kreis, p.captions, p.dialog);
+  Punkt punkt = punkt_bereit(p, projekt, "The point was not worked out.");
   punkt.Hub_Volumen_gegeben = w.volumen;
   Anlage anlage = Anlage_von(projekt);
   const Punktwerte& werte = punkt.Punkt_Rechnen(anlage, w.modus, kVolllast, 100 * kVolllast);
+  COP_verlangen(werte);
   const Json json = punkt_json(werte, p.km.z, projekt.WinterRGart);
   if (w.json)
     drucke(json);
@@ -104,7 +98,7 @@ void point_anmelden(CLI::App& app, Sitzung& sitzung) {
       ->check(CLI::IsMember({0, 1, 2, 77}))
       ->capture_default_str();
   zahl_option(*befehl, "--volume", w->volumen, "Displacement for modus 77, m3/h");
-  befehl->add_option("--options", w->optionen, "JSON object with controls, as for simulate")
+  befehl->add_option("--options", w->optionen, "JSON object with the controls " + steuernamen())
       ->type_name("FILE.json");
   befehl->add_flag("--json", w->json, "Print every figure of the point as JSON");
   beispiel(*befehl,

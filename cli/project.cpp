@@ -6,6 +6,7 @@
 
 #include "ausgabe.h"
 #include "konsole.h"
+#include "park.h"
 #include "projektwahl.h"
 #include "shell/text.h"
 #include "simulation/lastprojekt.h"
@@ -47,6 +48,7 @@ void lastprojekt_speichern(Sitzung& sitzung, const Wuensche& w) {
 
 void speichern(Sitzung& sitzung, const Wuensche& w) {
   Programm& p = sitzung.programm();
+  if (ist_park(w.datei)) return park_save(sitzung, w.datei);
   if (!Lastdatei(w.tag).empty()) return lastprojekt_speichern(sitzung, w);
   if (w.tag != kTag && !Modul_mit_Park(w.tag))
     throw Abbruch("There is no module \"" + w.tag +
@@ -70,6 +72,10 @@ void speichern(Sitzung& sitzung, const Wuensche& w) {
 // Load module or compressor tool: only their own part comes back to the data folder.
 void modul_oeffnen(Sitzung& sitzung, const std::string& pfad, const std::string& tag) {
   Programm& p = sitzung.programm();
+  const std::string_view last = Lastdatei(tag);
+  if (!last.empty() && Lastprojekt_ohne_Zeilen(p.ablage, pfad))
+    throw Abbruch("The project \"" + pfad + "\" holds nothing behind its heading. " +
+                  std::string(last) + " of the data folder stays as it was.");
   ProjLaden browser(p.ablage, p.captions, p.dialog);
   browser.oeffnen(Browsermodus::oeffnen, tag, Ordner_von(pfad));
   browser.Dateiname = pfad.substr(Ordner_von(pfad).size());
@@ -77,7 +83,6 @@ void modul_oeffnen(Sitzung& sitzung, const std::string& pfad, const std::string&
     sitzung.fehler("The project was not opened.");
     return;
   }
-  const std::string_view last = Lastdatei(tag);
   std::printf("Opened: %s (%s)\n", pfad.c_str(),
               last.empty() ? "its compressor park is VerDpark.dat of the data folder now"
                            : std::string(last).append(" of the data folder").c_str());
@@ -85,6 +90,7 @@ void modul_oeffnen(Sitzung& sitzung, const std::string& pfad, const std::string&
 
 void oeffnen(Sitzung& sitzung, const Wuensche& w) {
   Programm& p = sitzung.programm();
+  if (ist_park(w.datei)) return park_open(sitzung, w.datei);
   if (w.datei != kArbeitsprojekt_Zeichen) {
     const std::string pfad = projektpfad(sitzung, w.datei);
     const auto kopf = projektkopf(p.ablage, pfad);
@@ -104,8 +110,8 @@ void loeschen(Sitzung& sitzung, const Wuensche& w) {
   std::error_code fehler;
   if (!std::filesystem::is_regular_file(ort, fehler))
     throw Abbruch("There is no project file \"" + w.datei + "\".");
-  if (!gross(ort).ends_with(gross(kEndung)))
-    throw Abbruch("\"" + w.datei + "\" is no project file (*.prj) and stays.");
+  if (!gross(ort).ends_with(gross(kEndung)) && !gross(ort).ends_with(gross(kParkendung)))
+    throw Abbruch("\"" + w.datei + "\" is no project file (*.prj, *.VDD) and stays.");
   if (!ablage.Datei_Loeschen(pfad)) throw Abbruch(grund(ablage, "The file can't be deleted."));
   std::printf("Deleted: %s\n", ort.c_str());
 }
@@ -126,6 +132,10 @@ void auflisten(Sitzung& sitzung, const Wuensche& w) {
                     {"name", kopf->name},
                     {"description", kopf->beschreibung}});
     tabelle.zeilen.push_back({datei, kopf->tag, kopf->name, kopf->beschreibung});
+  }
+  for (const std::string& datei : w.alle ? parks(ablage, ordner) : std::vector<std::string>()) {
+    json.push_back({{"file", datei}, {"tag", "park"}, {"name", ""}, {"description", ""}});
+    tabelle.zeilen.push_back({datei, "park", "", "Compressor park"});
   }
   if (w.json)
     drucke(json);
@@ -152,20 +162,22 @@ struct Unterbefehl {
 };
 
 constexpr Unterbefehl kUnterbefehle[] = {
-    {"show", "Show a project's items and the numbers derived from them", "FILE",
-     "  polarkreis-cli project show plant.prj --json",
+    {"show", "Show a project's items and the numbers derived from them, or a compressor park",
+     "FILE", "  polarkreis-cli project show plant.prj --json",
      [](Sitzung& s, const Wuensche& w) { project_show(s, w.datei, w.json); }},
-    {"save", "Save the working project under a name", "FILE",
+    {"save", "Save the working project, or the compressor park (*.VDD), under a name", "FILE",
      "  polarkreis-cli project save plant.prj\n"
      "  polarkreis-cli project save office.prj --tag AC --name Office",
      speichern},
-    {"open", "Make a project file the working project", "FILE",
+    {"open", "Make a file the working project, or the compressor park (*.VDD)", "FILE",
      "  polarkreis-cli project open plant.prj", oeffnen},
-    {"translate", "Rewrite a project file in another language", "FILE",
+    {"translate", "Rewrite a project of the energy simulation in another language", "FILE",
      "  polarkreis-cli project translate plant.prj --to GER",
      [](Sitzung& s, const Wuensche& w) { project_translate(s, w.datei, w.sprache); }},
-    {"derive", "Change items as the form would and show what its numbers become", "FILE",
-     "  polarkreis-cli project derive plant.prj --set KaelteM=R717 --set Q0=250 --write",
+    {"derive",
+     "Change items of a project of the energy simulation as its form would, and show what its "
+     "numbers become",
+     "FILE", "  polarkreis-cli project derive plant.prj --set KaelteM=R717 --set Q0=250 --write",
      [](Sitzung& s, const Wuensche& w) {
        project_derive(s, w.datei, aenderungen_von(w.setzen), w.schreiben, w.json);
      }},
@@ -185,7 +197,8 @@ void optionen_anmelden(CLI::App& befehl, const std::string& name, Wuensche& w) {
     befehl.add_option("--name", w.name, "Project name in the heading")->type_name("TEXT");
     befehl.add_option("--description", w.beschreibung, "Description")->type_name("TEXT");
   }
-  if (name == "list") befehl.add_flag("--all", w.alle, "Files of every module");
+  if (name == "list")
+    befehl.add_flag("--all", w.alle, "Files of every module, and compressor parks");
   if (name == "translate")
     befehl.add_option("--to", w.sprache, "Code of the new language")->required()->type_name("CODE");
   if (name == "derive") {

@@ -3,6 +3,8 @@
 #include <map>
 
 #include "ausgabe.h"
+#include "optionen.h"
+#include "park.h"
 #include "project.h"
 #include "projektwahl.h"
 
@@ -95,10 +97,9 @@ Stand stand_von(const Projektdaten& projekt) {
 std::string namensliste() {
   std::string liste;
   for (const Projektfeld& f : Projektfelder()) liste += std::string(f.name) + ", ";
-  return liste +
-         "HeizCheck, FreeC_Check, ParaL_Check, Check3D1, ECO_OPT, Gleitopt, ErP_Vers, t_K_wasser, "
-         "Lamm_AB_combo, VERDA_Eff_combo, Rechart_combo, KaltGAbt, HeißGAbt, betrstd, lzfaktor, "
-         "EnergKost, JahrebetrT, Spezco2emission";
+  return liste + steuernamen() +
+         ", VERDA_Eff_combo, KaltGAbt, HeißGAbt, betrstd, lzfaktor, EnergKost, JahrebetrT, "
+         "Spezco2emission";
 }
 
 void anwenden(Projektdaten& projekt, const std::vector<Aenderung>& aenderungen) {
@@ -136,6 +137,7 @@ void drucke_abgeleitet(const Projektdaten& projekt, const Stand& vorher, bool js
 }  // namespace
 
 void project_show(Sitzung& sitzung, const std::string& datei, bool json) {
+  if (ist_park(datei)) return park_show(sitzung, datei, json);
   if (datei != kArbeitsprojekt_Zeichen) {
     const std::string pfad = projektpfad(sitzung, datei);
     const auto kopf = projektkopf(sitzung.programm().ablage, pfad);

@@ -19,6 +19,9 @@ constexpr std::string_view kTag = "SIM_PRO";
 constexpr int kNummer = 1;
 // Far above any project: a file beyond it is none, and is not read.
 constexpr std::int64_t kGroesse_hoechstens = 16'000'000;
+constexpr int kKopfitems = 4;
+// Items 36 to 46 came later: a file without them is old, not damaged.
+constexpr int kAlte_Items = 35;
 
 std::string dateiname(const std::string& pfad) {
   return pfad.substr(Ordner_von(pfad).size());
@@ -28,12 +31,39 @@ bool ist_arbeitsprojekt(const std::string& name) {
   return name.empty() || name == kArbeitsprojekt_Zeichen;
 }
 
-void tag_pruefen(const std::string& pfad, const std::optional<Projektkopf>& kopf) {
-  if (!kopf) throw Abbruch("The file \"" + pfad + "\" can't be read. Check its permissions.");
-  if (kopf->tag == kTag) return;
-  const bool modul = !kopf->tag.empty() && kopf->tag.size() <= 8 &&
-                     std::ranges::all_of(kopf->tag, [](unsigned char c) { return c > ' '; });
-  throw Abbruch(modul ? "The file \"" + pfad + "\" is a project of another module (\"" + kopf->tag +
+Projektkopf kopf_aus(const std::string& inhalt) {
+  Projektkopf kopf;
+  std::string unbenutzt;
+  ItemLeser leser(inhalt);
+  for (std::string* item : {&kopf.name, &kopf.beschreibung, &unbenutzt, &kopf.tag})
+    *item = leser.lies();
+  const auto enden = std::ranges::count(inhalt, '\n');
+  const auto zeilen = enden + (inhalt.ends_with('\n') ? 0 : 1);
+  kopf.zeilen = static_cast<std::size_t>(std::max<std::ptrdiff_t>(zeilen - 1, 0));
+  return kopf;
+}
+
+// Tells where a project ends early. One without any text is none.
+void items_pruefen(const std::string& inhalt, int kopfitems, const std::string& datei) {
+  ItemLeser leser(inhalt);
+  std::string_view item;
+  for (int n = 0; n < kopfitems; ++n) leser.lies_blick(item);
+  int anzahl = 0;
+  bool ohne_text = true;
+  for (; anzahl < Projektfelder_Zahl && leser.lies_blick(item); ++anzahl)
+    ohne_text = ohne_text && getrimmt(item).empty();
+  if (ohne_text) throw Abbruch(datei + " is no project: it holds no items.");
+  if (anzahl < kAlte_Items)
+    melde("The project holds " + std::to_string(anzahl) + " of " +
+          std::to_string(Projektfelder_Zahl) +
+          " items; the others are empty or take their fallbacks.");
+}
+
+void tag_pruefen(const std::string& pfad, const Projektkopf& kopf) {
+  if (kopf.tag == kTag) return;
+  const bool modul = !kopf.tag.empty() && kopf.tag.size() <= 8 &&
+                     std::ranges::all_of(kopf.tag, [](unsigned char c) { return c > ' '; });
+  throw Abbruch(modul ? "The file \"" + pfad + "\" is a project of another module (\"" + kopf.tag +
                             "\"), not of the energy simulation (\"SIM_PRO\")."
                       : "The file \"" + pfad +
                             "\" is no project: its heading doesn't hold the tag \"SIM_PRO\". It "
@@ -55,15 +85,17 @@ std::optional<Projektkopf> projektkopf(Ablage& ablage, const std::string& pfad) 
   if (!ablage.vorhanden(pfad) || ablage.Dateigroesse(pfad) > kGroesse_hoechstens) return {};
   const std::optional<std::string> inhalt = ablage.lies_ganz(pfad);
   if (!inhalt) return {};
-  Projektkopf kopf;
-  std::string unbenutzt;
-  ItemLeser leser(*inhalt);
-  for (std::string* item : {&kopf.name, &kopf.beschreibung, &unbenutzt, &kopf.tag})
-    *item = leser.lies();
-  const auto enden = std::ranges::count(*inhalt, '\n');
-  const auto zeilen = enden + (inhalt->ends_with('\n') ? 0 : 1);
-  kopf.zeilen = static_cast<std::size_t>(std::max<std::ptrdiff_t>(zeilen - 1, 0));
-  return kopf;
+  return kopf_aus(*inhalt);
+}
+
+std::string projekttext(Ablage& ablage, const std::string& pfad, const std::string& datei) {
+  if (ablage.Dateigroesse(pfad) > kGroesse_hoechstens)
+    throw Abbruch(datei + " is too large to be a project.");
+  const std::optional<std::string> inhalt = ablage.lies_ganz(pfad);
+  if (!inhalt) throw Abbruch(datei + " can't be read. Check its permissions.");
+  if (inhalt->find('\0') != std::string::npos)
+    throw Abbruch(datei + " is no project: it holds binary data.");
+  return *inhalt;
 }
 
 std::string projektpfad(Sitzung& sitzung, const std::string& name) {
@@ -109,21 +141,31 @@ Projektdaten& projekt_laden(Sitzung& sitzung, const std::string& name) {
     if (!p.ablage.vorhanden(kArbeitsprojekt))
       throw Abbruch("There is no working project (Temp_Sim.dat) in the data folder \"" +
                     p.ablage.Datenordner + "\". Name a project file.");
-    if (!p.ablage.lies_ganz(kArbeitsprojekt))
-      throw Abbruch("The working project (Temp_Sim.dat) can't be read.");
+    const std::string datei = "The working project (Temp_Sim.dat)";
+    items_pruefen(projekttext(p.ablage, std::string(kArbeitsprojekt), datei), 0, datei);
     p.projekt.Arbeitsprojekt_Lesen();
     p.projekt.Dateiname_aktuell.clear();
     return p.projekt;
   }
   const std::string pfad = projektpfad(sitzung, name);
+  const std::string datei = "The file \"" + name + "\"";
+  const std::string inhalt = projekttext(p.ablage, pfad, datei);
   if (ohne_kopf(pfad)) {
+    items_pruefen(inhalt, 0, datei);
     ohne_kopf_laden(p.projekt, pfad);
     return p.projekt;
   }
-  tag_pruefen(pfad, projektkopf(p.ablage, pfad));
+  tag_pruefen(pfad, kopf_aus(inhalt));
+  items_pruefen(inhalt, kKopfitems, datei);
   if (!p.projekt.Projekt_Oeffnen(kTag, pfad))
     throw Abbruch("The project \"" + name + "\" can't be read.");
   return p.projekt;
+}
+
+std::string auslegung_text(const Projektdaten& projekt) {
+  const auto kurz = [](const std::string& text) { return gekuerzt(sichtbar(text)); };
+  return kurz(projekt.KaelteM) + ", " + kurz(projekt.Q0) + " kW, " + kurz(projekt.t0) + "/" +
+         kurz(projekt.Tc) + " °C";
 }
 
 void projekt_zuruecklegen(Projektdaten& projekt) {

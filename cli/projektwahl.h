@@ -24,6 +24,9 @@ std::optional<Projektkopf> projektkopf(Ablage& ablage, const std::string& pfad);
 /// folder, then in the data folder. Throws `Abbruch` where there is no such file, where it is a
 /// folder, empty, too large for a project or not readable.
 std::string projektpfad(Sitzung& sitzung, const std::string& name);
+/// The content of a project file, or of one that goes with it; `datei` is how messages name it.
+/// Throws `Abbruch` where it is too large, not readable or binary.
+std::string projekttext(Ablage& ablage, const std::string& pfad, const std::string& datei);
 /// Where a file is to be made: a bare name lies in the current folder.
 std::string zielpfad(const std::string& name);
 
@@ -31,9 +34,13 @@ std::string zielpfad(const std::string& name);
 bool ohne_kopf(const std::string& pfad);
 
 /// Loads the project into the form; an empty name or "-" is the working project. The items of
-/// another language are translated in memory, no file is written. Throws `Abbruch` with the reason
-/// where there is none, or where the file is no project of the simulation.
+/// another language are translated in memory, no file is written. A project that ends early is
+/// told. Throws `Abbruch` with the reason where there is none, or where the file is no project of
+/// the simulation.
 Projektdaten& projekt_laden(Sitzung& sitzung, const std::string& name);
+
+/// Refrigerant, capacity and temperatures as a headline for people.
+std::string auslegung_text(const Projektdaten& projekt);
 
 /// Puts the form back where it came from. Throws `Abbruch` with the reason where that fails.
 void projekt_zuruecklegen(Projektdaten& projekt);

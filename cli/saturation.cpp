@@ -139,7 +139,7 @@ void als_tabelle(const Kaeltemittel& km, const Saettigung& s, bool aus_druck) {
 
 void rechnen(Sitzung& sitzung, const Anfrage& anfrage) {
   Programm& p = sitzung.programm();
-  stoff_waehlen(p.km, p.captions, anfrage.stoff);
+  stoff_waehlen(p, anfrage.stoff);
   const bool aus_druck = !ist_leer(anfrage.p);
   const Saettigung s = aus_druck ? bei_druck(p.km, anfrage.p) : bei_temperatur(p.km, anfrage.t);
   anfrage.json ? als_json(p.km, s, aus_druck) : als_tabelle(p.km, s, aus_druck);

@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 
 #include "ausgabe.h"
@@ -7,28 +8,26 @@
 #include "optionen.h"
 #include "platform/dateiwache.h"
 #include "projektwahl.h"
+#include "shell/text.h"
+#include "simulation/bericht.h"
 #include "sitzung.h"
+#include "stoff.h"
 #include "zahlen.h"
 
 namespace polarkreis::cli {
 
 namespace {
 
+constexpr int kStunden = 288;  // twelve months of one day
+
 struct Wuensche {
   std::string projekt, optionen;
-  bool json = false, neuer_Kurs = false;
+  bool json = false, neuer_Kurs = false, bericht = false;
 };
 
 // The month table on disk, or one made for the project's place; false where that can't be written.
 bool kurs_bereit(Programm& p, const Wuensche& w, Terminalfortschritt& fortschritt) {
-  if (!w.neuer_Kurs && Kurs_passt(p.ablage, p.projekt)) {
-    // The humidity is found by the month's name.
-    if (Monatstabelle_lesen(p.ablage).monate[0].Monat != p.captions.monat(1))
-      melde(
-          "The annual course (JG_Temp.dat) was made in another language: its months have no "
-          "humidity. --new-course makes it anew.");
-    return true;
-  }
+  if (!w.neuer_Kurs && Kurs_passt(p.ablage, p.projekt)) return true;
   if (!Kurs_machen(p.klima, p.projekt)) {
     melde(grund(p.ablage, "The annual course (JG_Temp.dat) could not be written."));
     return false;
@@ -69,9 +68,12 @@ void kosten_anhaengen(Tabelle& t, const Rechnung& r, const std::string& waehrung
 
 void drucke_fuer_leute(Programm& p, const Rechnung& r) {
   const Projektdaten& f = p.projekt;
-  std::printf("%s\n%s, %s kW, %s/%s °C\n", f.Rechart_combo.c_str(), f.KaelteM.c_str(), f.Q0.c_str(),
-              f.t0.c_str(), f.Tc.c_str());
-  if (r.ergebnis.Rechart == 1) std::printf("%s, %s\n", f.Stadt.c_str(), f.Land.c_str());
+  const auto kopfzeile = [](const std::string& text) {
+    std::printf("%s\n", gekuerzt(sichtbar(text)).c_str());
+  };
+  kopfzeile(f.Rechart_combo);
+  std::printf("%s\n", auslegung_text(f).c_str());
+  if (r.ergebnis.Rechart == 1) kopfzeile(f.Stadt + ", " + f.Land);
   std::printf("\n");
   Tabelle tabelle;
   if (r.ergebnis.Rechart == 1)
@@ -84,14 +86,53 @@ void drucke_fuer_leute(Programm& p, const Rechnung& r) {
   if (r.ergebnis.Rechart == 1) std::printf("Hours: %s\n", p.ablage.pfad("ERG_TEMP.DAT").c_str());
 }
 
+// The report as the editor lays it out, for a terminal.
+void drucke_bericht(Ablage& ablage) {
+  constexpr std::size_t breite = 78;
+  ErgebEdit editor(ablage);
+  if (!editor.oeffnen()) return;
+  std::size_t spalte = 0;
+  for (const Berichtszeile& z : editor.zeilen)
+    if (!z.wert.empty()) spalte = std::max(spalte, zeichenzahl(z.text));
+  for (const Berichtszeile& z : editor.zeilen) {
+    const std::string luecke(z.wert.empty() ? 0 : spalte + 1 - zeichenzahl(z.text), ' ');
+    const std::string text = z.lineal ? std::string(breite, '-') : z.text + luecke + z.wert;
+    std::printf("%s%s\n", z.kopf || z.lineal ? "" : "  ", sichtbar(text).c_str());
+  }
+}
+
+// Controls that were stored beside the project are taken only where they are asked for.
+void steuerung_erwaehnen(Programm& p) {
+  const std::string& datei = p.projekt.Dateiname_aktuell;
+  if (datei.empty()) return;
+  const std::string neben = p.projekt.Projektordner + datei.substr(0, datei.rfind('.')) + ".json";
+  if (p.ablage.vorhanden(neben))
+    melde("Controls for this project stand in \"" + p.ablage.pfad(neben) +
+          "\"; --options takes them.");
+}
+
+void COP_pruefen(Sitzung& sitzung, const Rechnung& r) {
+  if (r.ergebnis.Rechart == 0 && !(r.lauf.auslegung.P > 0))
+    sitzung.fehler("No COP comes out at the design point; --verbose tells more.");
+  const int ohne = r.lauf.Stunden_ohne_COP;
+  if (ohne == 0) return;
+  const std::string text = std::to_string(ohne) + " of " + std::to_string(kStunden) +
+                           " hours have no COP; --verbose tells more.";
+  ohne == kStunden ? sitzung.fehler(text) : melde(text);
+}
+
 void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Programm& p = sitzung.programm();
   projekt_laden(sitzung, w.projekt);
-  if (!w.optionen.empty()) optionen_lesen(w.optionen, p.projekt);
+  if (w.optionen.empty())
+    steuerung_erwaehnen(p);
+  else
+    optionen_lesen(w.optionen, p.projekt);
   // A run asks for its tables at each of 288 steps: the watch answers without the disk.
   p.ablage.setze_wache(Dateiwache_machen(p.ablage.Datenordner));
   const Rechnung r = rechnen(p, w);
   if (r.lauf.ende != Laufende::fertig) {
+    if (r.lauf.ende == Laufende::Tabelle_fehlt) melde(tabelle_fehlt(p));
     sitzung.fehler("The run was stopped; nothing was written.");
     return;
   }
@@ -99,6 +140,8 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
     drucke(rechnung_json(r, p.projekt));
   else
     drucke_fuer_leute(p, r);
+  if (w.bericht && r.geschrieben) drucke_bericht(p.ablage);
+  COP_pruefen(sitzung, r);
   if (!r.geschrieben)
     sitzung.fehler(
         grund(p.ablage, "A result file (ERG_TEMP.DAT or ergEN1.DAT) could not be written to \"" +
@@ -115,11 +158,10 @@ void simulate_anmelden(CLI::App& app, Sitzung& sitzung) {
       ->type_name("PROJECT.prj");
   befehl
       ->add_option("--options", w->optionen,
-                   "JSON object with the controls that are no project items: HeizCheck, "
-                   "FreeC_Check, ParaL_Check, Check3D1, ECO_OPT, Gleitopt, ErP_Vers, t_K_wasser, "
-                   "Lamm_AB_combo, Rechart_combo")
+                   "JSON object with the controls that are no project items: " + steuernamen())
       ->type_name("FILE.json");
-  befehl->add_flag("--json", w->json, "Print every total and result as JSON");
+  CLI::Option* json = befehl->add_flag("--json", w->json, "Print every total and result as JSON");
+  befehl->add_flag("--report", w->bericht, "Print the report, too")->excludes(json);
   befehl->add_flag("--new-course", w->neuer_Kurs,
                    "Make the annual course (JG_Temp.dat) anew for the project's place");
   beispiel(*befehl,
