@@ -60,15 +60,17 @@ void messen(const std::string& name, std::function<void()> arbeit, int wiederhol
       ->MinTime(0.05);
 }
 
-void kommandozeile_starten() {
+void kommandozeile_starten(const std::string& ordner) {
   static constexpr char programm[] = POLARKREIS_BIN "/polarkreis-cli";
   std::string name = programm;
+  std::string option = "--data";
+  std::string daten = ordner;
   std::string befehl = "saturation";
   std::string mittel = "R290";
   std::string schalter = "--t";
   std::string wert = "0";
-  char* argumente[] = {name.data(),     befehl.data(), mittel.data(),
-                       schalter.data(), wert.data(),   nullptr};
+  char* argumente[] = {name.data(),   option.data(),   daten.data(), befehl.data(),
+                       mittel.data(), schalter.data(), wert.data(),  nullptr};
   posix_spawn_file_actions_t still;
   posix_spawn_file_actions_init(&still);
   posix_spawn_file_actions_addopen(&still, 1, "/dev/null", 1, 0);
@@ -166,7 +168,8 @@ int laufen(int argc, char** argv) {
         benchmark::DoNotOptimize(r134a.km.z.h_v0);
       },
       11);
-  messen("start", kommandozeile_starten, 11);
+  messen(
+      "start", [&daten] { kommandozeile_starten(daten.ordner()); }, 11);
 
   Mediane mediane;
   benchmark::RunSpecifiedBenchmarks(&mediane);

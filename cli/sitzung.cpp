@@ -39,7 +39,7 @@ std::unique_ptr<Programm> Sitzung::Innen::starten(const Optionen& optionen) {
   angaben.datenordner = optionen.data;
   if (optionen.data.empty()) angaben.gefundener_ordner = Datenordner_Finden(0);
   angaben.fuellen = [this](const std::string& ordner) {
-    Datenordner_Fuellen(Lieferordner(programmpfad), ordner);
+    return Datenordner_Fuellen(Lieferordner(programmpfad), ordner).misslungen == 0;
   };
   if (const std::string fehler = Datenordner_festlegen(*p, angaben); !fehler.empty())
     throw Abbruch(fehler + " The folder was \"" + p->ablage.Datenordner +

@@ -42,6 +42,17 @@ double oder_null(double value) {
 
 }  // namespace
 
+std::string Monatsname(const Captions& captions, int m, const std::string& text) {
+  if (text == captions.monat(m)) return text;
+  const int zeile[] = {static_cast<int>(AirCoCap::Januar) + m - 1};
+  for (const std::string_view sprache : Sprachen()) {
+    std::string name =
+        captions.Caption_Uebersetzen(Stamm::AirCoCap, zeile, sprache, captions.Sprache, text);
+    if (name != text) return name;
+  }
+  return text;
+}
+
 JahresGang::JahresGang(Ablage& ablage, const Captions& captions, Klima& klima)
     : ablage_(ablage), captions_(captions), klima_(klima) {
   Monatsnamen_setzen();
@@ -97,8 +108,8 @@ void JahresGang::rechbutt() {
 bool JahresGang::OKbutt() {
   klima_.Land = Klima::land_anzeige(Combo1);
   klima_.Stadt = OrteListe;
-  Gang_da = true;
-  return Monatstabelle_schreiben();
+  Gang_da = Monatstabelle_schreiben();
+  return Gang_da;
 }
 
 void JahresGang::Stufen_rechnen(const Klimasatz& satz) {

@@ -30,6 +30,9 @@ const std::string& Anwendung_Text(const Captions& captions, int n);
 struct Monatszeile {
   std::string Monat, T_Tag, T_Nacht, Last_Tag, Last_Nacht;
 };
+/// Month m in the language in force: a course that was made in another language names its months in
+/// that. A text that is no language's name of the month stays.
+std::string Monatsname(const Captions& captions, int m, const std::string& text);
 /// "JG_Temp.dat" as the run reads it: ten heading items (country, city, eight blanks), twelve
 /// groups of ten items (month, T_Tag, T_Nacht, Last_Tag, Last_Nacht, five blanks).
 struct Monatstabelle {

@@ -31,12 +31,26 @@ class WRG {
   std::string Combo3_1, Combo1_1, Combo2_1;  ///< fuel, kind of boiler, distribution
   std::array<std::string, 4> Text11_14;      ///< prices of the four fuels (`Text11` to `Text14`)
   std::string WirkGK, Verlust;
-  std::string Qheiz, T_vorl;  ///< project fields `Q_heat` and `T_heat`, copied by the caller on OK
+  std::string Qheiz, T_vorl;  ///< project fields `Q_heat` and `T_heat`
   /// The file with the CO2 figure of electricity; a path where it doesn't lie in the data folder.
   std::string Energiedatei = "energk.dat";
 
   /// Reads "SPEZBK.DAT" into the fields; an empty item, and every item of a missing file, gives its
   /// default (opening creates an absent file empty, see `Ablage`).
+  /// Opens on the file and the project's `Q_heat` and `T_heat`.
+  void oeffnen(const std::string& Q_heat, const std::string& T_heat) {
+    WRG_laden();
+    Qheiz = Q_heat;
+    T_vorl = T_heat;
+  }
+  /// Both buttons copy the two fields to the project's and store; false if the file could not be
+  /// written.
+  bool OKbutt(std::string& Q_heat, std::string& T_heat) {
+    Q_heat = Qheiz;
+    T_heat = T_vorl;
+    return WRG_speichern();
+  }
+  bool WRGspeich(std::string& Q_heat, std::string& T_heat) { return OKbutt(Q_heat, T_heat); }
   void WRG_laden();
   /// Writes all items: the price of the chosen fuel and its figures of the fuel table included
   /// (empty for none of the four). False if the file could not be written.

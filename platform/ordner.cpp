@@ -22,6 +22,8 @@ constexpr const char* Programmordner = "polarkreis";
 constexpr const char* Kennzeichen = "COUNTRY.DAT";
 
 std::string Heimatordner() {
+  const char* heim = ::getenv("HOME");
+  if (heim != nullptr && *heim == '/') return heim;
   passwd eintrag{};
   passwd* gefunden = nullptr;
   std::vector<char> puffer(16384);
@@ -64,22 +66,26 @@ bool kopiert(const fs::path& quelle, const fs::path& ziel) {
          platte::ersetze(ziel.string(), bytes, false) == 0;
 }
 
-int fuelle(const fs::path& von, const fs::path& nach) {
+Fuellung fuelle(const fs::path& von, const fs::path& nach) {
+  Fuellung alle;
   const std::map<std::string, Vorhanden> quelle = inhalt(von);
-  if (quelle.empty() || platte::mache_ordner(nach.string()) != 0) return 0;
+  if (quelle.empty()) return alle;
+  if (platte::mache_ordner(nach.string()) != 0) return {0, 1};
   const std::map<std::string, Vorhanden> ziel = inhalt(nach);
-  int anzahl = 0;
   for (const auto& [schluessel, datei] : quelle) {
     if (schluessel.starts_with('.')) continue;
     const auto dort = ziel.find(schluessel);
     const fs::path name = dort == ziel.end() ? datei.name : dort->second.name;
     std::error_code fehler;
-    if (fs::is_directory(von / datei.name, fehler))
-      anzahl += fuelle(von / datei.name, nach / name);
-    else if (dort == ziel.end() || (dort->second.leer && !datei.leer))
-      anzahl += kopiert(von / datei.name, nach / name) ? 1 : 0;
+    if (fs::is_directory(von / datei.name, fehler)) {
+      const Fuellung darin = fuelle(von / datei.name, nach / name);
+      alle.kopiert += darin.kopiert;
+      alle.misslungen += darin.misslungen;
+    } else if (dort == ziel.end() || (dort->second.leer && !datei.leer)) {
+      ++(kopiert(von / datei.name, nach / name) ? alle.kopiert : alle.misslungen);
+    }
   }
-  return anzahl;
+  return alle;
 }
 
 /// The folder of the program; a name that the search path found is no path, so the system is asked.
@@ -103,9 +109,9 @@ std::string Datenordner_Finden(int modus) {
   return (Systemordner() / Programmordner).string();
 }
 
-int Datenordner_Fuellen(const std::string& von, const std::string& nach) {
+Fuellung Datenordner_Fuellen(const std::string& von, const std::string& nach) {
   std::error_code fehler;
-  return fs::equivalent(von, nach, fehler) ? 0 : fuelle(von, nach);
+  return fs::equivalent(von, nach, fehler) ? Fuellung() : fuelle(von, nach);
 }
 
 std::string Lieferordner(std::string_view programmpfad) {

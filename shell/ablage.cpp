@@ -104,6 +104,11 @@ bool Ablage::alle_schliessen() {
   return false;
 }
 
+bool Ablage::schreibt(int nummer) const {
+  const Nummer* datei = offen(nummer);
+  return datei != nullptr && datei->schreibt();
+}
+
 bool Ablage::Ende(int nummer) const {
   const Nummer* datei = offen(nummer);
   return datei == nullptr || datei->art != Nummer::Art::lesen || datei->leser.ende();

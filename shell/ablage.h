@@ -73,6 +73,8 @@ class Ablage {
   /// Closes every number; false if one of them failed.
   bool alle_schliessen();
 
+  /// True while the number is open for output.
+  bool schreibt(int nummer) const;
   /// True when the number has no item left, or is not open for reading.
   bool Ende(int nummer) const;
   /// The next item, or the empty text at the end.

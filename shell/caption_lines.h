@@ -40,6 +40,7 @@ enum class Caption {
   Projekt = 25,
   Ende_Frage = 38,
   Projektname_fehlt = 44,
+  Zahl_noetig = 46,
   Unter_tmin = 53,
   Ueber_tmax = 54,
   Tc_unter_t0 = 55,

@@ -43,6 +43,11 @@ const std::string& Captions::text(Stamm stamm, int zeile) const {
   return da ? zeilen[static_cast<std::size_t>(zeile - 1)] : leerer_text;
 }
 
+bool Captions::vorhanden(std::string_view sprache) const {
+  return ablage_.vorhanden(std::string(stammform(Stamm::JMapCap).name) + "." +
+                           std::string(sprache));
+}
+
 const std::string& Captions::monat(int m) const {
   return m >= 1 && m <= Monate ? text(Stamm::AirCoCap, static_cast<int>(AirCoCap::Januar) + m - 1)
                                : leerer_text;

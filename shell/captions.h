@@ -56,6 +56,8 @@ class Captions {
   const std::string& text(Heatcap z) const { return text(Stamm::heatcap, static_cast<int>(z)); }
   const std::string& text(PedCap z) const { return text(Stamm::PEDcap, static_cast<int>(z)); }
 
+  /// True if the data folder has the texts of that language.
+  bool vorhanden(std::string_view sprache) const;
   /// Month name, m = 1 to 12.
   const std::string& monat(int m) const;
 

@@ -67,7 +67,6 @@ void Waermeuebertrager(Schreiber& s, const Projektdaten& p) {
 
 void Verdichter(Schreiber& s, const Projektdaten& p) {
   const Captions& c = p.captions;
-  s.kopf(c.text(JMapCap::Verdichter));
   s.paar(c.text(JMapCap::Verdichter), p.verdichter_typ + "/" + p.Verdichterbauart);
   s.paar(c.text(Caption::Expansionsorgan), p.Combo1);
   s.paar(c.text(JMapCap::Leistungsregelung), p.RGart);

@@ -32,7 +32,7 @@ constexpr Stufe Wasser_mittel[] = {{1, true, 1.52, 1.75},   {5, true, 1.78, 2.05
 constexpr Stufe Wasser_klima[] = {
     {400, true, 5, 5.1}, {1500, true, 5.8, 6.4}, {ohne_Ende, true, 6.2, 6.9}};
 constexpr Stufe Luft_hoch[] = {{400, false, 4.5, 5}, {ohne_Ende, true, 5, 5.5}};
-// Two rows of the low range carry no stricter value: a settled entry.
+// Two rows of the low range have no stricter value.
 constexpr Stufe Luft_tief[] = {{0.4, true, 0.75, 0.8}, {2, true, 0.85, 0.95},
                                {8, true, 1.5, 1.5},    {20, true, 1.6, 1.6},
                                {200, true, 1.48, 1.7}, {ohne_Ende, true, 1.6, 1.84}};

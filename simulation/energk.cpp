@@ -3,6 +3,7 @@
 #include <array>
 
 #include "shell/items.h"
+#include "shell/text.h"
 
 namespace polarkreis {
 
@@ -22,7 +23,7 @@ Energiedaten energk_lesen(Ablage& ablage, const std::string& ordner) {
   Energiedaten daten;
   for (const auto feld : kFelder) {
     std::string item = leser.lies();
-    if (!item.empty()) daten.*feld = std::move(item);
+    if (!getrimmt(item).empty()) daten.*feld = std::move(item);
   }
   return daten;
 }

@@ -12,9 +12,11 @@ JahresLauf::JahresLauf(const Laufmittel& mittel)
 
 namespace {
 
-void Grenze_zeigen(Dialog& dialog, const std::string& text, std::string_view name, double wert) {
-  dialog.zeige(text + "\r\n" + std::string(name) + " = " + Zahl_Text(wert) + " °C !", "",
-               Symbol::hinweis);
+void Grenze_zeigen(const Laufmittel& m, Caption caption, std::string_view name, double grad_C) {
+  m.dialog.zeige(m.captions.text(caption) + "\r\n" + std::string(name) + " = " +
+                     Zahl_Text(m.einheiten.Temperatur(grad_C)) + " " +
+                     std::string(m.einheiten.Temperatureinheit()) + " !",
+                 "", Symbol::hinweis);
 }
 
 }  // namespace
@@ -32,10 +34,17 @@ Laufende JahresLauf::pruefen(Projektdaten& projekt) {
     return Laufende::Tabelle_fehlt;
   }
   km.KM_Grenzen();
+  for (const auto& [name, text] :
+       {std::pair{"t0", projekt.t0}, {"Tc", projekt.Tc}, {"Q0", projekt.Q0}}) {
+    if (std::isfinite(Wert(text))) continue;
+    m_.dialog.zeige(m_.captions.text(Caption::Zahl_noetig) + "\r\n" + name + " = " + text, "",
+                    Symbol::hinweis);
+    return Laufende::Grenze;
+  }
   const double t0 = Wert(projekt.t0);
   const double tc = Wert(projekt.Tc);
   if (t0 < km.z.tmin) {
-    Grenze_zeigen(m_.dialog, m_.captions.text(Caption::Unter_tmin), "tmin", km.z.tmin);
+    Grenze_zeigen(m_, Caption::Unter_tmin, "tmin", km.z.tmin);
     return Laufende::Grenze;
   }
   if (tc < t0) {
@@ -43,7 +52,7 @@ Laufende JahresLauf::pruefen(Projektdaten& projekt) {
     return Laufende::Grenze;
   }
   if (tc > km.z.tmax) {
-    Grenze_zeigen(m_.dialog, m_.captions.text(Caption::Ueber_tmax), "tmax", km.z.tmax);
+    Grenze_zeigen(m_, Caption::Ueber_tmax, "tmax", km.z.tmax);
     return Laufende::Grenze;
   }
   return Laufende::fertig;
@@ -119,7 +128,7 @@ bool JahresLauf::monat(int m, const Monatszeile& zeile, Laufergebnis& e) {
   s_.Last_Tag = Wert(zeile.Last_Tag);
   s_.Last_Nacht = Wert(zeile.Last_Nacht);
   s_.tage = m == 2 ? 28 : 30.63;
-  m_.klima.Monat_aktuell = zeile.Monat;
+  m_.klima.Monat_aktuell = Monatsname(m_.captions, m, zeile.Monat);
   if (empfaenger) empfaenger->monat(zeile);
   for (s_.h = 1; s_.h <= 24; ++s_.h) {
     if (fortschritt) {
@@ -164,8 +173,16 @@ bool Kurs_machen(Klima& klima, Projektdaten& projekt) {
   JahresGang gang(projekt.ablage, projekt.captions, klima);
   gang.oeffnen(projekt.AnwendBereich);
   if (!gang.OKbutt()) return false;
-  projekt.JG_fertig = true;
+  Kurs_uebernehmen(gang, projekt);
   return true;
+}
+
+void Kurs_uebernehmen(const JahresGang& gang, Projektdaten& projekt) {
+  projekt.Land = gang.Combo1;
+  projekt.Stadt = gang.OrteListe;
+  if (gang.AnwendBereich != projekt.AnwendBereich)
+    projekt.aendern("AnwendBereich", gang.AnwendBereich);
+  projekt.JG_fertig = gang.Gang_da;
 }
 
 }  // namespace polarkreis

@@ -8,6 +8,7 @@
 #include "climate/feuchte_luft.h"
 #include "climate/jahresgang.h"
 #include "climate/wrg.h"
+#include "shell/einheiten.h"
 #include "shell/warten.h"
 #include "simulation/punkt.h"
 
@@ -73,6 +74,8 @@ struct Laufergebnis {
   Heizdaten heizdaten;     ///< heat-recovery figures that were used
   double Q_WW_Tag = leer;  ///< hot-water heat of a day, kWh
   double t_abtau = 0;      ///< defrost time of a day, min
+  int Stunden_ohne_COP =
+      0;  ///< hours whose power could not be worked out; they keep the COP before
 };
 
 /// What a run works with; all are the program's one of each, or a worker's own.
@@ -84,6 +87,7 @@ struct Laufmittel {
   Luftzustand& luft;
   WRG& wrg;
   Dialog& dialog;
+  Einheiten einheiten{};  ///< of messages
 };
 
 /// The year's run: 12 months of one typical day of 24 hours.
@@ -106,14 +110,13 @@ class JahresLauf {
   Laufende pruefen(Projektdaten& projekt);
 
  private:
-  struct Stunde;
   bool jahr(const Projektdaten& projekt, Laufergebnis& ergebnis);
   void vorwerte(Laufergebnis& ergebnis);
   bool monat(int m, const Monatszeile& zeile, Laufergebnis& ergebnis);
   void schritt(Laufergebnis& ergebnis);
   void kondensation(const Anlage& a);
   double feuchtkugel(const Anlage& a);
-  void warmwasser(const Anlage& a, Jahressummen& s);
+  void warmwasser(Jahressummen& s);
   void heizen(const Anlage& a, Jahressummen& s);
   void verdichter(Anlage& a, Jahressummen& s);
   void wasser(const Anlage& a, Jahressummen& s);
@@ -121,7 +124,6 @@ class JahresLauf {
   void ventilatoren(const Anlage& a, Jahressummen& s);
   void mittelwerte(Jahressummen& s);
   Stundenwerte stundenwerte() const;
-  void abschluss(const Projektdaten& projekt, Laufergebnis& ergebnis);
   void meldungen_schreiben(const Anlage& a);
 
   Laufmittel m_;
@@ -159,6 +161,9 @@ class Ergebnisdatei : public Stundenempfaenger {
 
 /// True if "JG_Temp.dat" holds a course for the project's place.
 bool Kurs_passt(Ablage& ablage, const Projektdaten& projekt);
+/// Hands the dialog's place and application to the project after its OK, with the mark that a
+/// course exists.
+void Kurs_uebernehmen(const JahresGang& gang, Projektdaten& projekt);
 /// Makes the course for the project's place and application with the dialog's defaults, as its OK
 /// would.
 bool Kurs_machen(Klima& klima, Projektdaten& projekt);

@@ -19,12 +19,15 @@ void JahresLauf::schritt(Laufergebnis& e) {
   if (a.CO2) a.P_gasK = Kaeltemittel::CO2_pOpt(s_.tc);
 
   const Punktwerte& p = punkt_.Punkt_Rechnen(a, 3, s_.last / 100, s_.last);
-  if (!(p.P > 0)) m_.ablage.meldungen().zaehle("COP");
+  if (!(p.P > 0)) {
+    m_.ablage.meldungen().zaehle("COP");
+    ++e.Stunden_ohne_COP;
+  }
   s_.COP = p.COP;
   s_.t_d = p.t_d;
   setze(s_.Q_K, a.Q0 * (1 + 1 / s_.COP));
 
-  warmwasser(a, s);
+  warmwasser(s);
   heizen(a, s);
   verdichter(a, s);
   wasser(a, s);
@@ -79,7 +82,7 @@ double JahresLauf::feuchtkugel(const Anlage& a) {
 }
 
 /// Hot water from the desuperheater.
-void JahresLauf::warmwasser(const Anlage&, Jahressummen& s) {
+void JahresLauf::warmwasser(Jahressummen& s) {
   setze(s_.anteil, ((s_.t_d - heiz_.dT_WW) - s_.tc) / (s_.t_d - s_.tc));
   setze(s_.P_WW_verf, geschnitten(s_.Q_K * s_.last / 100 * s_.anteil));
   setze(s_.deckung, Int(s_.P_WW_verf / P_WW_ * 1000) / 10);

@@ -105,8 +105,10 @@ bool Projektdaten::Projekt_Schreiben(std::string_view name, int nummer, int anha
   if (anhaengen != 1) {
     ablage.alle_schliessen();
     ablage.Datei_Schreiben(name, nummer);
+  } else if (!ablage.schreibt(nummer)) {
+    ablage.Datei_Anhaengen(name, nummer);
   }
-  Sprache = captions.Sprache;
+  if (Sprache.empty() || captions.vorhanden(captions.Sprache)) Sprache = captions.Sprache;
   reserviert.clear();
   for (const Projektfeld& item : Projektfelder()) ablage.Ausgabe(nummer, {this->*item.feld});
   if (!ablage.Datei_Schliessen(nummer)) return false;

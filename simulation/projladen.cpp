@@ -136,6 +136,11 @@ bool ProjLaden::gelungen(bool ergebnis) {
   return false;
 }
 
+// A bare name would be sought in the current folder first; the browser shows the data folder.
+std::string ProjLaden::projektdatei() const {
+  return (ordner_.empty() ? ablage_.Datenordner + "/" : ordner_) + Dateiname;
+}
+
 bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
   if (!Modul_mit_Park(tag) || !ablage.vorhanden(Parkdatei)) return true;
   return umbenennen(ablage, Parkdatei, parkdatei_von(projektdatei));
@@ -164,6 +169,35 @@ Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view 
   if (gespeichert) return Speicherung::gespeichert;
   form.dialog.zeige(form.ablage.letzter_fehler(), Titel, Symbol::fehler);
   return Speicherung::misslungen;
+}
+
+void ProjLad(const Projektdaten& form, ProjLaden& browser, std::string_view tag) {
+  browser.oeffnen(Browsermodus::oeffnen, tag, form.Projektordner);
+}
+
+void PrLoesch(const Projektdaten& form, ProjLaden& browser, std::string_view tag) {
+  browser.oeffnen(Browsermodus::loeschen, tag, form.Projektordner);
+}
+
+bool Browser_bestaetigen(Projektdaten& form, ProjLaden& browser) {
+  if (!browser.bestaetigen()) return false;
+  const std::string datei = browser.projektdatei();
+  const bool Last = !Lastdatei(browser.tag()).empty();
+  if (Last || browser.modus() == Browsermodus::loeschen) return true;
+  if (browser.modus() == Browsermodus::oeffnen) {
+    if (!form.Projekt_Oeffnen(browser.tag(), datei)) {
+      FehlerBOX(form.dialog, Fehler::Datei_fehlt);
+      return false;
+    }
+    form.ProjektNam = browser.ProjektNam;
+    form.ProBeschr = browser.ProBeschr;
+    return true;
+  }
+  form.ProjektNam = browser.ProjektNam;
+  form.ProBeschr = browser.ProBeschr;
+  form.Projektordner = Ordner_von(datei);
+  form.Dateiname_aktuell = browser.Dateiname;
+  return ProjSpeich(form, browser, browser.tag()) == Speicherung::gespeichert;
 }
 
 bool Tag_passt(std::string_view tag, std::string_view modul) {

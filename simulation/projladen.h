@@ -52,7 +52,10 @@ class ProjLaden {
   /// a box, if that fails or no name is given.
   bool bestaetigen();
   /// The path of the file in the name field.
-  std::string projektdatei() const { return ordner_ + Dateiname; }
+  std::string projektdatei() const;
+
+  Browsermodus modus() const { return modus_; }
+  const std::string& tag() const { return tag_; }
 
  private:
   void liste_lesen();
@@ -81,6 +84,15 @@ Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view 
 /// True if a project file with that tag belongs to the module. The old files of "KOMP" and "VERB"
 /// have none.
 bool Tag_passt(std::string_view tag, std::string_view modul);
+
+/// The open and the delete button: the browser is opened on the form's project folder.
+void ProjLad(const Projektdaten& form, ProjLaden& browser, std::string_view tag);
+void PrLoesch(const Projektdaten& form, ProjLaden& browser, std::string_view tag);
+/// Confirms the browser for the form. Opening: the project is read, its heading's name and
+/// description go to the form, and the numbers are derived. Saving: the form takes name,
+/// description and file over and is stored, with its park where the module has one. Deleting: the
+/// file is removed. False, and the reason shown in a box, if that fails.
+bool Browser_bestaetigen(Projektdaten& form, ProjLaden& browser);
 
 /// The name rule of a save: a name without an extension gets ".prj", any other extension than
 /// ".PRJ" (in any case) is cut at the first point and replaced. A folder before the name stays.

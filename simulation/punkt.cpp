@@ -11,11 +11,11 @@ const Punktwerte& Punkt::Punkt_Rechnen(Anlage& anlage, int modus, double last_an
                                        double last_prozent) {
   vorbereiten(anlage, modus, last_prozent);
   saugzustand(anlage);
-  hauptpunkt(anlage);
+  hauptpunkt();
   if (anlage.transkritisch) flashstufe(anlage);
   if (modus == 1 || modus == 2) winterdruck(anlage, modus);
   verdraengung(modus);
-  massenstrom(anlage);
+  massenstrom();
   viskositaet();
   leistung(anlage, last_anteil);
   return w_;
@@ -37,6 +37,9 @@ void Punkt::vorbereiten(const Anlage& a, int modus, double last_prozent) {
 
   w_.m_eco = 0;
   w_.WinterRGart.clear();
+  // What only some plants have must not be shown of the plant before.
+  if (!a.transkritisch) w_.p_m = w_.t_m = w_.h_fl = w_.rho_fl = w_.rho_fl_l = w_.Q_fl = leer;
+  if (!a.ParaL_Check) w_.t_d_flash = leer;
   w_.dt_Winter = modus == 3 ? Winter_dT(a, a.Tc) : 0;
   w_.superheat = a.ableitung.Ueberhitzung;
   setze(w_.t0_eff, a.t0 + a.dt_Verd - dT_Last(a, last_prozent, a.dt_Verd, 1, a.t0));
@@ -62,7 +65,7 @@ void Punkt::saugzustand(const Anlage& a) {
   }
 }
 
-void Punkt::hauptpunkt(const Anlage&) {
+void Punkt::hauptpunkt() {
   kreis_.KreisPunkt(w_.t0_eff, w_.tc_eff, w_.t_saug, subcooling_);
 }
 
@@ -77,7 +80,8 @@ void Punkt::flashstufe(const Anlage& a) {
   setze(z.p_m, z.p0 + 5);
   kreis_.km.Sat_Suchen(z.p_m, 1);
   const SatKlammer& k = z.Klammer;
-  const double f = (z.p_m - k.Unten.T) / (k.Oben.T - k.Unten.T);
+  double f = 0;
+  setze(f, (z.p_m - k.Unten.T) / (k.Oben.T - k.Unten.T));
   setze(z.t_m, (k.Unten.p_d - 273.15) + f * 5);
 
   double verworfen = 0;
@@ -94,7 +98,7 @@ void Punkt::flashstufe(const Anlage& a) {
   setze(w_.Q_fl, Q0_ * (h_hp - w_.h_fl) / h_q);
   setze(w_.m_eco, w_.Q_fl / (z.h_v0 - (h_hp - dT_sc0 * z.cp_s)));
 
-  hauptpunkt(a);
+  hauptpunkt();
   setze(z.h_lc, w_.h_fl);
   w_.p_m = z.p_m;
   w_.t_m = z.t_m;
@@ -143,7 +147,7 @@ void Punkt::verdraengung(int modus) {
   z.Q0 = Q0_;
 }
 
-void Punkt::massenstrom(const Anlage&) {
+void Punkt::massenstrom() {
   const KMZustand& z = kreis_.km.z;
   w_.Q0 = Q0_;
   setze(w_.m_0, Q0_ / dh());

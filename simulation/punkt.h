@@ -65,11 +65,11 @@ class Punkt {
  private:
   void vorbereiten(const Anlage& a, int modus, double last_prozent);
   void saugzustand(const Anlage& a);
-  void hauptpunkt(const Anlage& a);
+  void hauptpunkt();
   void flashstufe(const Anlage& a);
   void winterdruck(Anlage& a, int modus);
   void verdraengung(int modus);
-  void massenstrom(const Anlage& a);
+  void massenstrom();
   void viskositaet();
   void leistung(const Anlage& a, double last_anteil);
   double dh() const;

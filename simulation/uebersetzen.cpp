@@ -105,6 +105,8 @@ std::string zusammengesetzt(std::vector<std::string>& items, const Projektsatz& 
 
 void Projektsatz_uebersetzen(const Captions& captions, Projektsatz& projekt, std::string_view von,
                              std::string_view nach) {
+  // Without the texts of both there is nothing to look up: the project must stay tied to its own.
+  if (!captions.vorhanden(von) || !captions.vorhanden(nach)) return;
   const Richtung richtung{captions, von, nach};
   for (const Projektfeld& item : Projektfelder()) {
     std::string& text = projekt.*item.feld;

@@ -9,7 +9,8 @@ namespace polarkreis {
 
 /// Translates the selections of a project from one language into another: each is looked up in the
 /// lines that it can hold, composed texts piece by piece. Numbers and free text stay. The project's
-/// `Sprache` becomes `nach`.
+/// `Sprache` becomes `nach`. A language
+/// without captions leaves the project as it is.
 void Projektsatz_uebersetzen(const Captions& captions, Projektsatz& projekt, std::string_view von,
                              std::string_view nach);
 

@@ -42,8 +42,8 @@ std::string Datenordner_festlegen(Programm& p, const Startangaben& angaben) {
   Ablage& ablage = p.ablage;
   ablage.Datenordner = ohne_Trenner(gegeben ? angaben.datenordner : angaben.gefundener_ordner);
   p.einstellungen.Parameter_Lesen();
-  if (!gegeben && p.einstellungen.erster_Start && angaben.fuellen)
-    angaben.fuellen(ablage.Datenordner);
+  const bool zu_fuellen = !gegeben && p.einstellungen.erster_Start && angaben.fuellen;
+  if (zu_fuellen && !angaben.fuellen(ablage.Datenordner)) return std::string(Nicht_schreibbar);
   // The folder as last used leads to another one only while that is there, and only once.
   const std::string zuletzt = ohne_Trenner(p.einstellungen[Einstellungen::Datenordner]);
   const bool weiter = !gegeben && ist_Ordner(zuletzt);

@@ -40,7 +40,7 @@ struct Startangaben {
   /// The folder that the system gives.
   std::string gefundener_ordner;
   /// Fills the found folder with what is delivered; called at its first start.
-  std::function<void(const std::string& ordner)> fuellen;
+  std::function<bool(const std::string& ordner)> fuellen;
   /// A language for this run only; empty is the stored one.
   std::string sprache;
 };
@@ -74,6 +74,8 @@ class Start {
   bool beendet = false;                      ///< the program is to end
   Vorgaben vorgaben;
   std::vector<std::function<void()>> Kinder;  ///< closes the forms that are open, at the end
+  /// True while no language is fixed yet: the language form opens.
+  bool Sprachwahl_noetig() const { return p_.einstellungen.erster_Start; }
   std::string Arbeits_KaelteM;  ///< first line of the working project: its refrigerant
 
   /// The steps of the start, in order. False, and the reason shown, only if there is no data

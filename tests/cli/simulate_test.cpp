@@ -224,4 +224,14 @@ TEST(SimulateFailure, ACourseThatCanNotBeWrittenStopsTheRun) {
   EXPECT_FALSE(daten.da("ERG_TEMP.DAT"));
 }
 
+TEST(Simulate, PrintsTheReportOnRequest) {
+  const Datenkopie daten;
+  const Antwort a = daten.rufe({"simulate", kMarkt, "--report"});
+  ASSERT_EQ(a.status, 0) << a.fehler;
+  EXPECT_TRUE(hat(a.ausgabe, "\nEvaporator\n  Size of the evaporator :"));
+  EXPECT_FALSE(hat(a.ausgabe, "&$$"));
+  EXPECT_FALSE(hat(a.ausgabe, "\u00a7$&"));
+  EXPECT_EQ(daten.rufe({"simulate", kMarkt, "--report", "--json"}).status, 2);
+}
+
 }  // namespace

@@ -192,3 +192,19 @@ TEST(WrgGerman, DefaultsCarryTheLanguagesWords) {
 }
 
 }  // namespace
+
+TEST(WRGDialog, OkHandsTheHeatingFieldsToTheProjectAndStores) {
+  ClimateDesk desk;
+  WRG wrg(desk.ablage, desk.captions);
+  std::string Q_heat = "20", T_heat = "45";
+  wrg.oeffnen(Q_heat, T_heat);
+  EXPECT_EQ(wrg.Qheiz, "20");
+  EXPECT_EQ(wrg.T_vorl, "45");
+  wrg.Qheiz = "25";
+  wrg.T_vorl = "35";
+  wrg.tWasser = "12";
+  ASSERT_TRUE(wrg.OKbutt(Q_heat, T_heat));
+  EXPECT_EQ(Q_heat, "25");
+  EXPECT_EQ(T_heat, "35");
+  EXPECT_EQ(wrg.heizdaten().T_Kaltwasser, 12);
+}

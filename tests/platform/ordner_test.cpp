@@ -51,12 +51,12 @@ TEST(DatenordnerFuellen, CopiesWhatIsMissing) {
   ordner.schreib("from/b.jpg", std::string("\0\xFF", 2));
   ordner.schreib("from/samples/c.prj", "c");
   ordner.schreib("from/.hidden", "h");
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("deep/to")), 3);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("deep/to")).kopiert, 3);
   EXPECT_EQ(ordner.lies("deep/to/a.dat"), "a");
   EXPECT_EQ(ordner.lies("deep/to/b.jpg"), std::string("\0\xFF", 2));
   EXPECT_EQ(ordner.lies("deep/to/samples/c.prj"), "c");
   EXPECT_FALSE(ordner.da("deep/to/.hidden"));
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("deep/to")), 0);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("deep/to")).kopiert, 0);
 }
 
 TEST(DatenordnerFuellen, UsersFileStaysInAnyCase) {
@@ -65,7 +65,7 @@ TEST(DatenordnerFuellen, UsersFileStaysInAnyCase) {
   ordner.schreib("from/samples/a.prj", "delivered");
   ordner.schreib("to/CAPTION.ger", "user's");
   ordner.schreib("to/SAMPLES/A.PRJ", "user's");
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")), 0);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")).kopiert, 0);
   EXPECT_EQ(ordner.lies("to/CAPTION.ger"), "user's");
   EXPECT_EQ(ordner.lies("to/SAMPLES/A.PRJ"), "user's");
   EXPECT_FALSE(ordner.da("to/Caption.GER"));
@@ -76,7 +76,7 @@ TEST(DatenordnerFuellen, EmptyFileCountsAsMissing) {
   TempOrdner ordner;
   ordner.schreib("from/COUNTRY.DAT", "delivered");
   ordner.schreib("to/country.dat", "");
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")), 1);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")).kopiert, 1);
   EXPECT_EQ(ordner.lies("to/country.dat"), "delivered");
   EXPECT_FALSE(ordner.da("to/COUNTRY.DAT"));
 }
@@ -85,20 +85,31 @@ TEST(DatenordnerFuellen, CopyOfAReadOnlyFileCanBeWritten) {
   TempOrdner ordner;
   ordner.schreib("from/a.dat", "a");
   ::chmod(ordner.pfad("from/a.dat").c_str(), 0444);
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")), 1);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to")).kopiert, 1);
   struct stat stand {};
   ASSERT_EQ(::stat(ordner.pfad("to/a.dat").c_str(), &stand), 0);
   EXPECT_NE(stand.st_mode & 0200, 0U);
 }
 
+TEST(DatenordnerFuellen, CountsWhatCouldNotBeWritten) {
+  TempOrdner ordner;
+  ordner.schreib("from/a.dat", "a");
+  ordner.schreib("from/sub/b.dat", "b");
+  ordner.schreib("to/SUB", "a file in place of the folder");
+  const Fuellung fuellung = Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("to"));
+  EXPECT_EQ(fuellung.kopiert, 1);
+  EXPECT_EQ(fuellung.misslungen, 1);
+  EXPECT_EQ(ordner.lies("to/SUB"), "a file in place of the folder");
+}
+
 TEST(DatenordnerFuellen, NothingToCopyMakesNothing) {
   TempOrdner ordner;
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("nowhere"), ordner.pfad("to")), 0);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("nowhere"), ordner.pfad("to")).kopiert, 0);
   EXPECT_FALSE(ordner.da("to"));
   ordner.schreib("from/a.dat", "a");
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("from")), 0);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("from")).kopiert, 0);
   ordner.schreib("file", "in place of the folder");
-  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("file")), 0);
+  EXPECT_EQ(Datenordner_Fuellen(ordner.pfad("from"), ordner.pfad("file")).kopiert, 0);
 }
 
 TEST(Lieferordner, InstalledOneStandsBesideTheProgram) {

@@ -290,6 +290,10 @@ TEST_F(Jahr, LimitsOfUseAreChecked) {
   w.projekt.t0 = "-55.5";
   EXPECT_EQ(w.rechne().lauf.ende, Laufende::Grenze);
   EXPECT_EQ(w.dialog.texte.back(), w.captions.text(Caption::Unter_tmin) + "\r\ntmin = -55 °C !");
+  JahresLauf in_fahrenheit({w.ablage, w.captions, w.kreis, w.klima, w.luft, w.wrg, w.dialog,
+                            Einheiten{.angelsaechsisch = true}});
+  EXPECT_EQ(in_fahrenheit.pruefen(w.projekt), Laufende::Grenze);
+  EXPECT_TRUE(w.dialog.texte.back().ends_with("tmin = -67 °F !"));
   w.projekt.t0 = "-8";
   w.projekt.Tc = "-9";
   EXPECT_EQ(w.rechne().lauf.ende, Laufende::Grenze);
@@ -300,6 +304,62 @@ TEST_F(Jahr, LimitsOfUseAreChecked) {
   EXPECT_FALSE(w.ordner.da("ergEN1.DAT"));
   w.projekt.Tc = "65";
   EXPECT_EQ(w.rechne().lauf.ende, Laufende::fertig);
+}
+
+TEST_F(Jahr, ANumberBeyondTheRangeIsRefused) {
+  for (std::string Projektsatz::*feld : {&Projektsatz::t0, &Projektsatz::Tc, &Projektsatz::Q0}) {
+    const std::string vorher = w.projekt.*feld;
+    w.projekt.*feld = "1e999";
+    EXPECT_EQ(w.rechne().lauf.ende, Laufende::Grenze);
+    EXPECT_TRUE(w.dialog.texte.back().ends_with(" = 1e999"));
+    w.projekt.*feld = vorher;
+  }
+  EXPECT_FALSE(w.ordner.da("ergEN1.DAT"));
+}
+
+TEST_F(Jahr, HoursWithoutACOPAreCounted) {
+  // A table that ends after two rows has nothing to give at these temperatures.
+  const std::string tabelle = w.ordner.lies("R448A.DAT");
+  w.ordner.schreib("R448A.DAT", tabelle.substr(0, tabelle.find('\n') + 1) + "\"x\"\n");
+  EXPECT_EQ(rechne().Stunden_ohne_COP, 288);
+  w.ordner.schreib("R448A.DAT", tabelle);
+  EXPECT_EQ(rechne().Stunden_ohne_COP, 0);
+}
+
+TEST_F(Jahr, ACourseOfAnotherLanguageGivesTheSameYear) {
+  w.oeffne("Ammonia process cooling.prj");
+  const Laufergebnis englisch = rechne();
+  std::string kurs = w.ordner.lies("JG_Temp.dat");
+  for (const auto& [von, nach] :
+       {std::pair{"January", "Januar"}, {"May", "Mai"}, {"July", "Juli"}}) {
+    kurs.replace(kurs.find(von), std::string(von).size(), nach);
+  }
+  w.ordner.schreib("JG_Temp.dat", kurs);
+  EXPECT_EQ(rechne().summen.E_Verd, englisch.summen.E_Verd);
+}
+
+// Humidity keeps the figure of the hour before where day and night are equal.
+TEST_F(Jahr, EqualDayAndNightKeepTheHumidityOfTheMonthBefore) {
+  w.projekt.Vfl_typ = "Kühlturm";
+  rechne("30", "22", "50");
+  std::string kurs = w.ordner.lies("JG_Temp.dat");
+  const std::size_t feb = kurs.find("February");
+  kurs.replace(kurs.find("\"22\"", feb), 4, "\"30\"");
+  w.ordner.schreib("JG_Temp.dat", kurs);
+  stunden.stunden.clear();
+  rechne();
+  // Every February hour has 30 °C and the humidity of January's last hour, and so one wet bulb.
+  const double phi = [&] {
+    w.klima.Land = w.projekt.Land;
+    w.klima.Monat_aktuell = "January";
+    const double R = w.klima.Klima_Wert(w.projekt.Stadt, 8);
+    return Stundenfeuchte(R, Stundentemperatur(30, 22, 24), 30, 22);
+  }();
+  const double h_a = w.luft.Feuchte_Luft(phi / 100, 30, 1.013)->h;
+  for (std::size_t i = 24; i < 48; ++i) {
+    EXPECT_LE(w.luft.Feuchte_Luft(1, stunden.stunden[i].t_luft, 1.013)->h, h_a + 0.1);
+    EXPECT_GE(w.luft.Feuchte_Luft(1, stunden.stunden[i].t_luft + 0.1, 1.013)->h, h_a - 0.1);
+  }
 }
 
 TEST_F(Jahr, ACancelledCourseAbandonsTheRun) {

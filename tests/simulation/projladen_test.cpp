@@ -72,7 +72,7 @@ TEST_F(ProjLadenListe, AnEmptyFolderTextIsTheDataFolder) {
   browser.oeffnen(Browsermodus::oeffnen, "SIM_PRO", "");
   EXPECT_EQ(dateien(), std::vector<std::string>{"here.prj"});
   browser.waehlen(0);
-  EXPECT_EQ(browser.projektdatei(), "here.prj");
+  EXPECT_EQ(browser.projektdatei(), daten.pfad("here.prj"));
 }
 
 TEST_F(ProjLadenListe, TheSelectedLineIsShownWithTheProjectWord) {

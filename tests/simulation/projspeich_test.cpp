@@ -47,6 +47,46 @@ TEST_F(ProjSpeichKnopf, SavesAtOnceUnderTheCurrentName) {
   EXPECT_EQ(form.Projektname_aktuell, "Dairy");
 }
 
+TEST_F(ProjSpeichKnopf, TheBrowserCompletesASaveAndOpensIt) {
+  form.Q0 = "77";
+  ASSERT_EQ(ProjSpeich(form, browser, "SIM_PRO"), Speicherung::Name_noetig);
+  browser.Dateiname = "dairy";
+  browser.ProjektNam = "Dairy two";
+  ASSERT_TRUE(Browser_bestaetigen(form, browser));
+  EXPECT_EQ(form.Dateiname_aktuell, "dairy.prj");
+  EXPECT_EQ(form.ProjektNam, "Dairy two");
+
+  form.Q0 = "5";
+  form.ProjektNam = "another";
+  ProjLad(form, browser, "SIM_PRO");
+  ASSERT_EQ(browser.eintraege.size(), 1u);
+  browser.waehlen(0);
+  ASSERT_TRUE(Browser_bestaetigen(form, browser));
+  EXPECT_EQ(form.Q0, "77");
+  EXPECT_EQ(form.ProjektNam, "Dairy two");
+  EXPECT_EQ(form.Projektordner, projekte.pfad() + "/");
+
+  PrLoesch(form, browser, "SIM_PRO");
+  browser.waehlen(0);
+  ASSERT_TRUE(Browser_bestaetigen(form, browser));
+  EXPECT_FALSE(projekte.da("dairy.prj"));
+}
+
+TEST_F(ProjSpeichKnopf, TheFileOfTheDataFolderIsOpenedNotOneOfTheCurrentFolder) {
+  form.Projektordner.clear();
+  form.Dateiname_aktuell = "plant.prj";
+  form.Q0 = "11";
+  ASSERT_EQ(ProjSpeich(form, browser, "SIM_PRO"), Speicherung::gespeichert);
+  const std::filesystem::path vorher = std::filesystem::current_path();
+  projekte.schreib("plant.prj", "\"wrong\",\"\",\"\",\"SIM_PRO\"\r\n\"R22\"\r\n\"99\"\r\n");
+  std::filesystem::current_path(projekte.pfad());
+  ProjLad(form, browser, "SIM_PRO");
+  browser.waehlen(0);
+  EXPECT_TRUE(Browser_bestaetigen(form, browser));
+  std::filesystem::current_path(vorher);
+  EXPECT_EQ(form.Q0, "11");
+}
+
 TEST_F(ProjSpeichKnopf, TellsAFailureAndKeepsThePark) {
   std::filesystem::create_directories(projekte.pfad("dairy.prj"));
   daten.schreib("VerDpark.dat", "park");

@@ -124,12 +124,12 @@ TEST(Projektuebersetzung, OtherRefrigerantIsTranslatedDesignationsAreNot) {
   EXPECT_EQ(in_german(desk, &Projektsatz::KaelteM, "R134a"), "R134a");
 }
 
-TEST(Projektuebersetzung, MissingLanguageLeavesTheTexts) {
+TEST(Projektuebersetzung, MissingLanguageLeavesTheProjectTiedToItsOwn) {
   ProjektDesk desk;
   Projektsatz satz = record(english_items());
   Projektsatz_uebersetzen(desk.captions, satz, "ENG", "FRA");
   EXPECT_EQ(satz.AnwendBereich, "Cold room");
-  EXPECT_EQ(satz.Sprache, "FRA");
+  EXPECT_EQ(satz.Sprache, "ENG");
 }
 
 TEST(Projektuebersetzung, WorkingProjectIsRewrittenAndNoBufferStays) {

@@ -14,7 +14,10 @@ TEST_F(StartOrdner, AGivenFolderIsUsedAsItStands) {
   Startangaben angaben;
   angaben.datenordner = daten.pfad() + "/";
   angaben.gefundener_ordner = anderer.pfad();
-  angaben.fuellen = [&](const std::string&) { gefuellt = true; };
+  angaben.fuellen = [&](const std::string&) {
+    gefuellt = true;
+    return true;
+  };
   EXPECT_TRUE(start.starten(angaben));
   EXPECT_EQ(programm.ablage.Datenordner, daten.pfad());
   EXPECT_FALSE(gefuellt);
@@ -31,6 +34,15 @@ TEST_F(StartOrdner, AGivenFolderThatIsNotThereIsToldAndNotMade) {
   EXPECT_FALSE(daten.da("absent"));
 }
 
+TEST_F(StartOrdner, AFillThatFailsIsToldAndEndsTheStart) {
+  Startangaben angaben;
+  angaben.gefundener_ordner = daten.pfad();
+  angaben.fuellen = [](const std::string&) { return false; };
+  EXPECT_FALSE(start.starten(angaben));
+  ASSERT_FALSE(dialog.texte.empty());
+  EXPECT_EQ(dialog.texte.back(), "Can not overwrite existing file.");
+}
+
 TEST_F(StartOrdner, TheFoundFolderIsFilledAtTheFirstStartOnly) {
   int gefuellt = 0;
   Startangaben angaben;
@@ -39,6 +51,7 @@ TEST_F(StartOrdner, TheFoundFolderIsFilledAtTheFirstStartOnly) {
     ++gefuellt;
     EXPECT_EQ(ordner, daten.pfad("found"));
     daten.schreib("found/COUNTRY.DAT", "x");
+    return true;
   };
   EXPECT_TRUE(start.starten(angaben));
   EXPECT_EQ(gefuellt, 1);
@@ -52,7 +65,7 @@ TEST_F(StartOrdner, AFolderThatCannotBeFilledGivesTheFixedMessage) {
   daten.schreib("file", "x");
   Startangaben angaben;
   angaben.gefundener_ordner = daten.pfad("file/below");
-  angaben.fuellen = [](const std::string&) {};
+  angaben.fuellen = [](const std::string&) { return true; };
   EXPECT_FALSE(start.starten(angaben));
   EXPECT_EQ(dialog.texte, std::vector<std::string>{"Can not overwrite existing file."});
   EXPECT_EQ(dialog.symbole, std::vector<Symbol>{Symbol::fehler});
