@@ -7,7 +7,7 @@
 #include "shell/items.h"
 #include "simulation/projektsatz.h"
 
-// Whole runs against an independent reckoning of the same rules.
+// Whole runs against a second program that shares no code with this one.
 
 namespace {
 
@@ -64,7 +64,7 @@ bool gleich(double wert, double referenz) {
 
 }  // namespace
 
-TEST(Simulate, AgreesWithAnIndependentReckoning) {
+TEST(Simulate, AgreesWithASecondProgram) {
   const auto zeilen = tabelle();
   ASSERT_GT(zeilen.size(), 40u);
   const std::vector<std::string>& spalten = zeilen[0];
