@@ -21,23 +21,9 @@ Regelart Regelart_von(const Captions& captions, std::string_view text) {
 
 namespace {
 
-int Bauart_von(const Captions& captions, std::string_view typ) {
-  if (benennt(captions.text(Caption::Hubkolben), typ)) return 1;
-  if (benennt(captions.text(Caption::Schraube), typ)) return 2;
-  if (gleich(typ, "Scroll")) return 3;
-  if (gleich(typ, "Turbo")) return 4;
-  return 0;
-}
-
-int Antrieb_von(const Captions& captions, std::string_view bauform) {
-  if (benennt(captions.text(Caption::Offen), bauform)) return 1;
-  if (benennt(captions.text(Caption::Halbhermetisch), bauform)) return 2;
-  if (benennt(captions.text(Caption::Hermetisch), bauform)) return 3;
-  return 0;
-}
-
 double Anlagenfaktor_von(const Captions& captions, std::string_view art) {
-  const std::string zweistufig = captions.text(Caption::Zweistufig) + " - ";
+  const std::string zweistufig =
+      captions.text(Caption::Zweistufig) + std::string(kAnlagenart_Trenner);
   if (gleich(art, zweistufig + captions.text(Caption::Zwischenkuehler))) return 0.8;
   if (gleich(art, zweistufig + captions.text(Caption::Einspritzung))) return 0.88;
   return 1;
@@ -91,8 +77,7 @@ void Zahlen_uebernehmen(const Projektdaten& p, Anlage& a) {
 
 void Auswahlen_uebernehmen(const Projektdaten& p, Anlage& a) {
   const Captions& captions = p.captions;
-  a.Kaelteraum = benennt(captions.text(JMapCap::Kaelteraum), p.AnwendBereich) ||
-                 benennt(captions.text(JMapCap::Kaelteraum_zwei), p.AnwendBereich);
+  a.Kaelteraum = ist_Kaelteraum(captions, p.AnwendBereich);
   a.Abtauart = p.KaltGAbt ? 2 : p.HeißGAbt ? 1 : 0;
   a.RGart = Regelart_von(captions, p.RGart);
   a.RGartL = Regelart_von(captions, p.RGartL);
@@ -100,8 +85,8 @@ void Auswahlen_uebernehmen(const Projektdaten& p, Anlage& a) {
   const bool thermostatisch = benennt(captions.text(JMapCap::Ventil_thermostatisch), p.Combo1);
   a.Ventil = thermostatisch ? Ventilart::thermostatisch : Ventilart::anderes;
   a.Verfluessiger = Verfluessigerart_von(captions, p.Vfl_typ);
-  a.Bauart = Bauart_von(captions, p.verdichter_typ);
-  a.Antrieb = Antrieb_von(captions, p.Verdichterbauart);
+  a.Bauart = Nummer_in(captions, Verdichtertypen(), p.verdichter_typ);
+  a.Antrieb = Nummer_in(captions, Bauformen(), p.Verdichterbauart);
   a.Winter_frei = benennt(captions.text(PedCap::Ohne), p.WinterRGart);
   a.tc_min = Wert(erste_zeichen(p.WinterRGart, 2));
 }

@@ -103,4 +103,27 @@ std::span<const Auswahltext> Anlagenart_Merkmale() {
   return kMerkmale;
 }
 
+std::span<const Auswahltext> Verdichtertypen() {
+  static constexpr std::array<Auswahltext, 4> kTypen{Caption::Hubkolben, Caption::Schraube,
+                                                     "Scroll", "Turbo"};
+  return kTypen;
+}
+
+std::span<const Auswahltext> Bauformen() {
+  static constexpr std::array<Auswahltext, 3> kFormen{Caption::Offen, Caption::Halbhermetisch,
+                                                      Caption::Hermetisch};
+  return kFormen;
+}
+
+int Nummer_in(const Captions& captions, std::span<const Auswahltext> liste, std::string_view text) {
+  for (std::size_t i = 0; i < liste.size(); ++i)
+    if (benennt(liste[i].text(captions), text)) return static_cast<int>(i) + 1;
+  return 0;
+}
+
+bool ist_Kaelteraum(const Captions& captions, std::string_view anwendung) {
+  return benennt(captions.text(JMapCap::Kaelteraum), anwendung) ||
+         benennt(captions.text(JMapCap::Kaelteraum_zwei), anwendung);
+}
+
 }  // namespace polarkreis

@@ -35,6 +35,15 @@ bool benennt(const std::string& caption, std::string_view text);
 /// selection of captions. Composed selections (`Anlagenart_Combo`, `Vfl_typ`) are not in here.
 std::span<const Auswahltext> Auswahltexte(std::string_view item);
 
+/// Compressor types and constructions in the order of their numbers, from 1.
+std::span<const Auswahltext> Verdichtertypen();
+std::span<const Auswahltext> Bauformen();
+/// The number of the text in such a list; 0 if it is none of them.
+int Nummer_in(const Captions& captions, std::span<const Auswahltext> liste, std::string_view text);
+
+/// True for the two cold-room applications.
+bool ist_Kaelteraum(const Captions& captions, std::string_view anwendung);
+
 /// --- The pieces of the composed selections.
 
 /// Kind of plant: number of stages, then what distinguishes it, with `kAnlagenart_Trenner` between.

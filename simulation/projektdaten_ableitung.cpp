@@ -82,11 +82,6 @@ double eine_Dezimale(double zahl) {
   return Int(zahl * 10) / 10;
 }
 
-bool ist_Kaelteraum(const Captions& captions, std::string_view anwendung) {
-  return benennt(captions.text(J::Kaelteraum), anwendung) ||
-         benennt(captions.text(J::Kaelteraum_zwei), anwendung);
-}
-
 /// The number's text; where the statement before failed, the target stays.
 void zeige(std::string& target, double zahl) {
   if (std::isfinite(zahl)) target = Zahl_Text(zahl);

@@ -4,6 +4,7 @@
 
 #include "shell/text.h"
 #include "shell/wert.h"
+#include "simulation/auswahltexte.h"
 #include "simulation/projektdaten.h"
 
 namespace polarkreis {
@@ -12,27 +13,17 @@ namespace {
 
 constexpr std::string_view kStartcode = "117";
 
-/// Compressor types and constructions in the order of the hand-over's numbers, from 1.
-std::array<std::string, 4> Verdichtertypen(const Captions& captions) {
-  return {captions.text(Caption::Hubkolben), captions.text(Caption::Schraube), "Scroll", "Turbo"};
-}
-std::array<std::string, 3> Bauformen(const Captions& captions) {
-  return {captions.text(Caption::Offen), captions.text(Caption::Halbhermetisch),
-          captions.text(Caption::Hermetisch)};
-}
-
-template <class Liste>
-void nimm_Nummer(std::string& target, const Liste& liste, std::string_view nummer) {
+void nimm_Nummer(std::string& target, const Captions& captions, std::span<const Auswahltext> liste,
+                 std::string_view nummer) {
   const double n = Wert(nummer);
   for (std::size_t i = 0; i < liste.size(); ++i)
-    if (n == static_cast<double>(i + 1)) target = liste[i];
+    if (n == static_cast<double>(i + 1)) target = liste[i].text(captions);
 }
 
-template <class Liste>
-std::string Nummer_von(const Liste& liste, std::string_view text) {
-  for (std::size_t i = 0; i < liste.size(); ++i)
-    if (!liste[i].empty() && gleich(liste[i], text)) return std::to_string(i + 1);
-  return "";
+std::string Nummer_von(const Captions& captions, std::span<const Auswahltext> liste,
+                       std::string_view text) {
+  const int nummer = Nummer_in(captions, liste, text);
+  return nummer == 0 ? "" : std::to_string(nummer);
 }
 
 void nimm_Text(std::string& target, const std::string& text) {
@@ -50,8 +41,8 @@ void Projektdaten::Uebergabe_Uebernehmen(const Uebergabe& daten) {
   nimm_Text(ProjektNam, daten[U::Projektname]);
   nimm_Text(ProBeschr, daten[U::Beschreibung]);
   nimm_Text(PumpCap, daten[U::PumpCap]);
-  nimm_Nummer(verdichter_typ, Verdichtertypen(captions), daten[U::Verdichtertyp]);
-  nimm_Nummer(Verdichterbauart, Bauformen(captions), daten[U::Bauform]);
+  nimm_Nummer(verdichter_typ, captions, Verdichtertypen(), daten[U::Verdichtertyp]);
+  nimm_Nummer(Verdichterbauart, captions, Bauformen(), daten[U::Bauform]);
   if (!getrimmt(daten[U::Economiser]).empty()) aendern("ECO_OPT", daten[U::Economiser]);
   const std::string& temperatur = daten[U::Tc_oder_Winter];
   if (!getrimmt(temperatur).empty()) {
@@ -76,8 +67,8 @@ Uebergabe Projektdaten::Uebergabe_Fuellen() const {
   daten[U::Kaeltemittel] = KaelteM;
   daten[U::PumpCap] = PumpCap;
   daten[U::Economiser] = std::to_string(ECO_OPT);
-  daten[U::Verdichtertyp] = Nummer_von(Verdichtertypen(captions), verdichter_typ);
-  daten[U::Bauform] = Nummer_von(Bauformen(captions), Verdichterbauart);
+  daten[U::Verdichtertyp] = Nummer_von(captions, Verdichtertypen(), verdichter_typ);
+  daten[U::Bauform] = Nummer_von(captions, Bauformen(), Verdichterbauart);
   return daten;
 }
 
