@@ -16,7 +16,7 @@ Punkt punkt_bereit(Programm& p, Projektdaten& projekt, const std::string& wenn_n
 }
 
 void COP_verlangen(const Punktwerte& werte) {
-  if (werte.P > 0 && !ist_leer(werte.COP)) return;
+  if (werte.P > 0 && werte.COP > 0) return;
   throw Abbruch(
       "No COP comes out at this point: the compressor power can't be worked out. Check the "
       "project's capacity, temperatures and high pressure.");

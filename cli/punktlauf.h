@@ -12,7 +12,7 @@ namespace polarkreis::cli {
 /// fails; what is wrong was told then.
 Punkt punkt_bereit(Programm& p, Projektdaten& projekt, const std::string& wenn_nicht);
 
-/// Throws `Abbruch` where no COP came out.
+/// Throws `Abbruch` where no COP above 0 came out: such a point has no figures to go by.
 void COP_verlangen(const Punktwerte& werte);
 
 }  // namespace polarkreis::cli

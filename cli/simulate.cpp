@@ -111,6 +111,23 @@ void steuerung_erwaehnen(Programm& p) {
           "\"; --options takes them.");
 }
 
+// Such an item gives no figure, nor does what is worked out from it.
+std::string zu_grosse_zahlen(const Projektdaten& projekt) {
+  std::string liste;
+  for (const Projektfeld& f : Projektfelder())
+    if (ist_leer(Wert(projekt.*f.feld)))
+      liste +=
+          (liste.empty() ? "" : ", ") + std::string(f.name) + " = " + gekuerzt(projekt.*f.feld);
+  return liste;
+}
+
+void zahlen_pruefen(Sitzung& sitzung, const Projektdaten& projekt, const Rechnung& r) {
+  const std::string liste = zu_grosse_zahlen(projekt);
+  if (!liste.empty()) melde("These items of the project are no numbers: " + liste + ".");
+  if (!liste.empty() && r.ergebnis.Rechart == 1 && ist_leer(r.ergebnis.SCOP))
+    sitzung.fehler("No annual figure comes out with them. Correct the project.");
+}
+
 void COP_pruefen(Sitzung& sitzung, const Rechnung& r) {
   if (r.ergebnis.Rechart == 0 && !(r.lauf.auslegung.P > 0))
     sitzung.fehler("No COP comes out at the design point; --verbose tells more.");
@@ -141,6 +158,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   else
     drucke_fuer_leute(p, r);
   if (w.bericht && r.geschrieben) drucke_bericht(p.ablage);
+  zahlen_pruefen(sitzung, p.projekt, r);
   COP_pruefen(sitzung, r);
   if (!r.geschrieben)
     sitzung.fehler(
