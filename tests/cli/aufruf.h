@@ -9,6 +9,7 @@
 
 #include <array>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -74,16 +75,14 @@ inline void pumpe(Leitung& ein, std::string_view eingabe, Leitung& aus, std::str
 
 }  // namespace aufruf_innen
 
-/// Runs the real program with these arguments. `eingabe` is its standard input, `ordner` its
-/// current folder (empty: the test's), `ausgabedatei` takes standard output in place of a pipe.
-inline Antwort rufe(std::vector<std::string> argumente, std::string_view eingabe = {},
-                    const std::string& ordner = {}, const char* ausgabedatei = nullptr) {
+/// Runs a program, named by its path, with the arguments behind it.
+inline Antwort fuehre_aus(std::vector<std::string> befehl, std::string_view eingabe = {},
+                          const std::string& ordner = {}, const char* ausgabedatei = nullptr) {
   using aufruf_innen::Leitung;
   Antwort antwort;
   ::signal(SIGPIPE, SIG_IGN);
-  std::string programm = std::string(POLARKREIS_BIN) + "/polarkreis-cli";
-  std::vector<char*> argv{programm.data()};
-  for (std::string& a : argumente) argv.push_back(a.data());
+  std::vector<char*> argv;
+  for (std::string& a : befehl) argv.push_back(a.data());
   argv.push_back(nullptr);
 
   Leitung ein, aus, err;
@@ -97,8 +96,7 @@ inline Antwort rufe(std::vector<std::string> argumente, std::string_view eingabe
   ::posix_spawn_file_actions_adddup2(&schritte, err.enden[1], 2);
   if (!ordner.empty()) ::posix_spawn_file_actions_addchdir_np(&schritte, ordner.c_str());
   pid_t pid = 0;
-  const int gestartet =
-      ::posix_spawn(&pid, programm.c_str(), &schritte, nullptr, argv.data(), environ);
+  const int gestartet = ::posix_spawn(&pid, argv.front(), &schritte, nullptr, argv.data(), environ);
   ::posix_spawn_file_actions_destroy(&schritte);
   ein.schliesse(0);
   aus.schliesse(1);
@@ -109,6 +107,31 @@ inline Antwort rufe(std::vector<std::string> argumente, std::string_view eingabe
   ::waitpid(pid, &stand, 0);
   antwort.status = WIFEXITED(stand) ? WEXITSTATUS(stand) : 128 + WTERMSIG(stand);
   return antwort;
+}
+
+inline std::string programmpfad() {
+  return std::string(POLARKREIS_BIN) + "/polarkreis-cli";
+}
+
+/// Runs the real program with these arguments. `eingabe` is its standard input, `ordner` its
+/// current folder (empty: the test's), `ausgabedatei` takes standard output in place of a pipe.
+inline Antwort rufe(std::vector<std::string> argumente, std::string_view eingabe = {},
+                    const std::string& ordner = {}, const char* ausgabedatei = nullptr) {
+  argumente.insert(argumente.begin(), programmpfad());
+  return fuehre_aus(std::move(argumente), eingabe, ordner, ausgabedatei);
+}
+
+/// The same where no file may become larger than so many blocks of 512 bytes, as on a full disk.
+inline Antwort rufe_mit_grenze(int bloecke, const std::vector<std::string>& argumente,
+                               const std::string& ordner) {
+  std::vector<std::string> befehl{"/bin/sh",
+                                  "-c",
+                                  "trap '' XFSZ; ulimit -f \"$1\"; shift; exec \"$@\"",
+                                  "sh",
+                                  std::to_string(bloecke),
+                                  programmpfad()};
+  befehl.insert(befehl.end(), argumente.begin(), argumente.end());
+  return fuehre_aus(std::move(befehl), {}, ordner);
 }
 
 /// A copy of the delivered data folder, in English unless told otherwise.
@@ -122,9 +145,26 @@ struct Datenkopie : TempOrdner {
   /// Runs the program on this folder, which is its current one, too.
   Antwort rufe(const std::vector<std::string>& argumente, std::string_view eingabe = {},
                const std::string& sprache = "ENG") const {
-    std::vector<std::string> alle{"--data", pfad(), "--language", sprache};
-    alle.insert(alle.end(), argumente.begin(), argumente.end());
-    return ::rufe(alle, eingabe, pfad());
+    return ::rufe(hier(argumente, sprache), eingabe, pfad());
+  }
+  Antwort rufe_mit_grenze(int bloecke, const std::vector<std::string>& argumente) const {
+    return ::rufe_mit_grenze(bloecke, hier(argumente, "ENG"), pfad());
+  }
+  /// Appends a hundred megabytes of this text, line by line.
+  void verlaengere(const std::string& name, const std::string& zeile) const {
+    std::string stueck;
+    while (stueck.size() < 1'000'000) stueck += zeile;
+    std::ofstream datei(pfad(name), std::ios::binary | std::ios::app);
+    for (int i = 0; i < 100; ++i)
+      datei.write(stueck.data(), static_cast<std::streamsize>(stueck.size()));
+  }
+  /// Puts another text in the place of an item of a project file (from 1, behind the heading).
+  void setze_item(const std::string& name, int nummer, const std::string& text) const {
+    std::string inhalt = lies(name);
+    std::size_t ort = 0;
+    for (int zeile = 0; zeile < nummer; ++zeile) ort = inhalt.find('\n', ort) + 1;
+    inhalt.replace(ort, inhalt.find('\r', ort) - ort, "\"" + text + "\"");
+    schreib(name, inhalt);
   }
   /// Every file's bytes by name, folders left out.
   std::map<std::string, std::string> inhalt() const {
@@ -132,6 +172,14 @@ struct Datenkopie : TempOrdner {
     for (const auto& datei : std::filesystem::directory_iterator(pfad()))
       if (datei.is_regular_file())
         alle[datei.path().filename().string()] = lies(datei.path().filename().string());
+    return alle;
+  }
+
+ private:
+  std::vector<std::string> hier(const std::vector<std::string>& argumente,
+                                const std::string& sprache) const {
+    std::vector<std::string> alle{"--data", pfad(), "--language", sprache};
+    alle.insert(alle.end(), argumente.begin(), argumente.end());
     return alle;
   }
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "aufruf.h"
@@ -20,6 +21,10 @@ const std::vector<Worte>& leser() {
                                           {"project", "derive"},
                                           {"project", "translate", "--to", "GER"}};
   return befehle;
+}
+
+bool hat(const std::string& text, const std::string& teil) {
+  return text.find(teil) != std::string::npos;
 }
 
 Worte mit(Worte befehl, const std::string& datei) {
@@ -76,12 +81,96 @@ TEST(BadProject, AHundredMegabytesAreNoProject) {
 TEST(BadProject, CutOffAnywhereItEndsWithAMessageOrTheFallbacks) {
   const Datenkopie daten;
   const std::string ganz = daten.lies(kMarkt);
+  const std::size_t kopf = ganz.find("SIM_PRO") + 7, erstes = ganz.find('\n') + 1;
   for (std::size_t n = 1; n < ganz.size(); n += 29) {
-    daten.schreib("cut.prj", ganz.substr(0, n));
+    const std::string rest = ganz.substr(0, n);
+    daten.schreib("cut.prj", rest);
     const Antwort a = daten.rufe({"simulate", "cut.prj", "--json"});
-    EXPECT_TRUE(a.status == 0 || a.status == 1) << n << " " << a.status << a.fehler;
-    EXPECT_TRUE(a.status == 0 || !a.fehler.empty()) << n;
-    EXPECT_EQ(daten.lies("cut.prj"), ganz.substr(0, n));
+    const std::string items = rest.size() > erstes ? rest.substr(erstes) : "";
+    const auto anzahl = std::count(items.begin(), items.end(), '\n') +
+                        (items.empty() || items.ends_with('\n') ? 0 : 1);
+    const std::string gezaehlt = "The project holds " + std::to_string(anzahl) + " of 46 items; ";
+    if (n < kopf || anzahl == 0) {
+      EXPECT_EQ(a.status, 1) << n;
+      EXPECT_TRUE(hat(a.fehler, "\"cut.prj\"") || hat(a.fehler, "cut.prj\" is")) << n << a.fehler;
+      EXPECT_TRUE(hat(a.fehler, "is no project")) << n << a.fehler;
+    } else {
+      EXPECT_EQ(hat(a.fehler, gezaehlt), anzahl < 35) << n << a.fehler;
+      EXPECT_TRUE(a.status == 0 ? a.json()["COP"].is_number()
+                                : hat(a.fehler, "refrigerant") || hat(a.fehler, "COP"))
+          << n << a.fehler;
+    }
+    EXPECT_EQ(daten.lies("cut.prj"), rest);
+  }
+}
+
+TEST(BadProject, ACutOffOneIsToldByEveryReaderAndStillOpens) {
+  const Datenkopie daten;
+  std::string kurz = daten.lies(kMarkt);
+  std::size_t ort = 0;
+  for (int zeile = 0; zeile < 31; ++zeile) ort = kurz.find('\n', ort) + 1;
+  kurz.resize(ort);
+  for (const Worte& befehl : leser()) {
+    daten.schreib("cut.prj", kurz);
+    const Antwort a = daten.rufe(mit(befehl, "cut.prj"));
+    EXPECT_EQ(a.status, 0) << befehl.back() << a.fehler;
+    EXPECT_TRUE(hat(a.fehler,
+                    "The project holds 30 of 46 items; the others are empty or take their "
+                    "fallbacks."))
+        << befehl.back() << a.fehler;
+  }
+  EXPECT_TRUE(daten.lies("Temp_Sim.dat").starts_with("\"R448A\""));
+}
+
+TEST(BadProject, AWorkingProjectThatIsNoneIsTold) {
+  const Datenkopie daten;
+  std::filesystem::create_directory(daten.pfad("there"));
+  const std::string binaer("\"R448A\"\r\n\0\0\"12\"\r\n", 18);
+  const std::vector<std::pair<std::string, std::string>> faelle{
+      {binaer, "binary"}, {" \r\n\r\n\"\"\r\n", "holds no items"}};
+  for (const auto& [inhalt, grund] : faelle) {
+    daten.schreib("Temp_Sim.dat", inhalt);
+    daten.schreib("there/Temp_Sim.dat", inhalt);
+    for (Worte befehl : leser()) {
+      if (befehl[0] == "project") continue;
+      const Antwort a = daten.rufe(befehl);
+      EXPECT_EQ(a.status, 1) << befehl.back();
+      EXPECT_TRUE(hat(a.fehler, "Temp_Sim.dat") && hat(a.fehler, grund)) << a.fehler;
+    }
+    for (const char* datei : {"-", "there/Temp_Sim.dat"}) {
+      const Antwort a = daten.rufe({"project", "show", datei});
+      EXPECT_EQ(a.status, 1) << datei;
+      EXPECT_TRUE(hat(a.fehler, "Temp_Sim.dat") && hat(a.fehler, grund)) << a.fehler;
+    }
+    EXPECT_EQ(daten.lies("Temp_Sim.dat"), inhalt);
+  }
+  // Another one takes its place without its being read.
+  EXPECT_EQ(daten.rufe({"project", "open", kMarkt}).status, 0);
+  EXPECT_EQ(daten.rufe({"point"}).status, 0);
+}
+
+TEST(BadProject, ABinaryOneWithAHeadingIsTold) {
+  const Datenkopie daten;
+  daten.schreib("zero.prj", std::string("\"a\",\"b\",\"\",\"SIM_PRO\"\r\n\"R448A\"\r\n\0\"", 37));
+  alle_lehnen_ab(daten, "zero.prj");
+  EXPECT_TRUE(hat(daten.rufe({"simulate", "zero.prj"}).fehler, "binary"));
+}
+
+TEST(BadProject, ItsTextsReachATerminalWithoutEscapeSequencesAndShortened) {
+  const Datenkopie daten;
+  daten.schreib("wild.prj", daten.lies(kMarkt));
+  daten.setze_item("wild.prj", 1, "R\x1b[31m\x07\xc2\x9b" + std::string(5000, 'x'));
+  for (const Worte& befehl :
+       {Worte{"simulate", "wild.prj"}, Worte{"point", "wild.prj"},
+        Worte{"project", "show", "wild.prj"}, Worte{"project", "derive", "wild.prj"},
+        Worte{"--verbose", "fans", "11", "wild.prj"}}) {
+    const Antwort a = daten.rufe(befehl);
+    const std::string alles = a.ausgabe + a.fehler;
+    EXPECT_TRUE(hat(alles, "R?[31m??xxx")) << befehl.back() << alles.substr(0, 300);
+    EXPECT_FALSE(hat(alles, "\x1b") || hat(alles, "\x07") || hat(alles, "\xc2\x9b"));
+    EXPECT_TRUE(hat(alles, "...")) << befehl.back();
+    EXPECT_FALSE(hat(a.fehler, std::string(61, 'x'))) << befehl.back();
+    EXPECT_FALSE(hat(alles, std::string(201, 'x'))) << befehl.back();
   }
 }
 
@@ -99,20 +188,65 @@ TEST(BadProject, AnOldFileGetsItsFallbacks) {
   EXPECT_EQ(items["ProjektNam"], "Supermarket");
 }
 
-TEST(BadProject, NumbersThatAreNoneNeverCrash) {
+struct Item {
+  const char* name;
+  int nummer;
+};
+
+TEST(BadProject, ATextThatIsNoNumberIsZero) {
   const Datenkopie daten;
-  for (const char* wert : {"1e999", "--", "-1e999", "abc", "", "0", "1e-320", "nan"}) {
-    for (const char* item : {"Q0", "t0", "Tc", "dtVerfl", "DT_v_combo", "Lueftcap", "PumpCap"}) {
-      daten.schreib("bad.prj", daten.lies(kMarkt));
-      daten.rufe(
-          {"project", "derive", "bad.prj", "--set", std::string(item) + "=" + wert, "--write"});
-      const Antwort a = daten.rufe({"simulate", "bad.prj", "--json"});
-      EXPECT_TRUE(a.status == 0 || a.status == 1) << item << "=" << wert << " " << a.status;
-      if (a.status == 0) {
-        EXPECT_FALSE(a.json().is_discarded()) << item << "=" << wert;
-      }
+  const std::string ganz = daten.lies(kMarkt);
+  daten.rufe({"simulate", kMarkt});  // makes the course
+  const auto lauf = [&](const Item& item, const std::string& wert) {
+    daten.schreib("bad.prj", ganz);
+    daten.setze_item("bad.prj", item.nummer, wert);
+    return daten.rufe({"simulate", "bad.prj", "--json"});
+  };
+  for (const Item& item : {Item{"Q0", 2}, Item{"t0", 3}, Item{"Tc", 40}, Item{"dtVerfl", 41},
+                           Item{"DT_v_combo", 44}, Item{"Lueftcap", 26}, Item{"PumpCap", 24}}) {
+    const Antwort null = lauf(item, "0");
+    EXPECT_TRUE(null.status == 0 || null.fehler.size() > 40) << item.name << null.fehler;
+    for (const char* wert : {"--", "abc", "nan"}) {
+      const Antwort a = lauf(item, wert);
+      EXPECT_EQ(a.status, null.status) << item.name << "=" << wert << a.fehler;
+      EXPECT_EQ(a.ausgabe, null.ausgabe) << item.name << "=" << wert;
     }
   }
+}
+
+TEST(BadProject, ANumberBeyondAllRangeIsToldOrLeftOut) {
+  const Datenkopie daten;
+  const std::string ganz = daten.lies(kMarkt);
+  for (const char* wert : {"1e999", "-1e999"}) {
+    for (const Item& item : {Item{"t0", 3}, Item{"Tc", 40}, Item{"Q0", 2}}) {
+      daten.schreib("bad.prj", ganz);
+      daten.setze_item("bad.prj", item.nummer, wert);
+      for (const char* befehl : {"simulate", "point"}) {
+        const Antwort a = daten.rufe({befehl, "bad.prj", "--json"});
+        EXPECT_EQ(a.status, 1) << befehl << item.name;
+        EXPECT_TRUE(hat(a.fehler, std::string(item.name) + " = " + wert)) << a.fehler;
+        EXPECT_EQ(a.ausgabe, "");
+      }
+      EXPECT_FALSE(daten.da("ergEN1.DAT"));
+    }
+  }
+  for (const Item& item :
+       {Item{"dtVerfl", 41}, Item{"DT_v_combo", 44}, Item{"Lueftcap", 26}, Item{"PumpCap", 24}}) {
+    daten.schreib("bad.prj", ganz);
+    daten.setze_item("bad.prj", item.nummer, "1e999");
+    const Antwort a = daten.rufe({"simulate", "bad.prj", "--json"});
+    EXPECT_EQ(a.status, a.json()["SCOP"].is_number() ? 0 : 1) << item.name << a.fehler;
+    EXPECT_TRUE(hat(a.fehler, std::string(item.name) + " = 1e999")) << a.fehler;
+  }
+}
+
+TEST(BadProject, ACondensingTemperatureThatIsNoNumberIsZero) {
+  const Datenkopie daten;
+  daten.schreib("bad.prj", daten.lies(kMarkt));
+  daten.setze_item("bad.prj", 40, "--");
+  const Antwort a = daten.rufe({"point", "bad.prj", "--json"});
+  EXPECT_EQ(a.status, 0) << a.fehler;
+  EXPECT_EQ(a.json()["tc_eff"], 0.0);
 }
 
 TEST(BadProject, AMissingWorkingProjectIsTold) {
@@ -128,16 +262,37 @@ TEST(BadProject, AMissingWorkingProjectIsTold) {
   EXPECT_FALSE(daten.da("x.prj"));
 }
 
-TEST(BadTable, ABrokenRowOrAMissingTableEndsWithAMessageOrFigures) {
+TEST(BadTable, ABrokenRowEndsTheTableThereAndIsTold) {
   const Datenkopie daten;
   std::string tabelle = daten.lies("R448A.DAT");
   tabelle.replace(tabelle.size() / 2, 40, "\"broken,,--,1e999\r\n");
   daten.schreib("R448A.DAT", tabelle);
-  EXPECT_EQ(daten.rufe({"point", "--json"}).status, 0);
+  const Antwort a = daten.rufe({"--verbose", "point", "--json"});
+  daten.schreib("R448A.DAT", tabelle.substr(0, tabelle.rfind('\n', tabelle.find("broken")) + 1));
+  const Antwort gekappt = daten.rufe({"point", "--json"});
+  EXPECT_EQ(a.status, gekappt.status);
+  EXPECT_EQ(a.ausgabe, gekappt.ausgabe);
+  EXPECT_TRUE(hat(a.fehler, "R448A.DAT") && hat(a.fehler, "can't be read; the table ends there"))
+      << a.fehler;
+}
+
+TEST(BadTable, AMissingOrEmptyOneIsNamedAndNotMade) {
+  const Datenkopie daten;
+  const std::string ordner = "in the data folder \"" + daten.pfad() + "\"";
   std::filesystem::remove(daten.pfad("R448A.DAT"));
-  const Antwort a = daten.rufe({"simulate"});
+  for (const Worte& befehl : {Worte{"simulate"}, Worte{"point"}, Worte{"fans", "12"}}) {
+    const Antwort a = daten.rufe(befehl);
+    EXPECT_EQ(a.status, 1) << befehl.front();
+    EXPECT_TRUE(hat(a.fehler, "File not existing.")) << a.fehler;
+    EXPECT_TRUE(hat(a.fehler, "The table R448A.DAT is missing or empty " + ordner)) << a.fehler;
+  }
+  EXPECT_FALSE(daten.da("R448A.DAT"));
+  daten.schreib("R448A.DAT", "");
+  EXPECT_TRUE(hat(daten.rufe({"simulate"}).fehler, "R448A.DAT is missing or empty"));
+  std::filesystem::remove(daten.pfad("CO2_sh01.dat"));
+  const Antwort a = daten.rufe({"simulate", "CO2 supermarket.prj"});
   EXPECT_EQ(a.status, 1);
-  EXPECT_NE(a.fehler.find("File not existing."), std::string::npos);
+  EXPECT_TRUE(hat(a.fehler, "The table CO2_sh01.dat is missing or empty " + ordner)) << a.fehler;
 }
 
 TEST(BadTable, ABrokenCourseRuns) {
@@ -146,6 +301,114 @@ TEST(BadTable, ABrokenCourseRuns) {
   const Antwort a = daten.rufe({"simulate", "--json"});
   EXPECT_EQ(a.status, 0) << a.fehler;
   EXPECT_FALSE(a.json().is_discarded());
+}
+
+/// A command and its figures before and after a hundred megabytes were put behind a file's own
+/// lines: what a reader doesn't need, it leaves.
+void gleich_hinter_hundert_megabyte(const std::string& datei, const std::string& zeile) {
+  const Datenkopie daten;
+  const Worte befehl{"simulate", kMarkt, "--json"};
+  daten.rufe(befehl);  // makes the course
+  const Antwort vorher = daten.rufe(befehl);
+  ASSERT_EQ(vorher.status, 0) << vorher.fehler;
+  daten.verlaengere(datei, zeile);
+  const Antwort nachher = daten.rufe(befehl);
+  EXPECT_EQ(nachher.status, 0) << nachher.fehler;
+  EXPECT_EQ(nachher.ausgabe, vorher.ausgabe) << datei;
+}
+
+TEST(HundredMegabytes, BehindACaptionFileAreLeft) {
+  gleich_hinter_hundert_megabyte("JMapCap.ENG", "\"one text more, and one more after it\"\r\n");
+}
+
+TEST(HundredMegabytes, BehindACourseAreLeft) {
+  gleich_hinter_hundert_megabyte("JG_Temp.dat", "\"January\"\r\n\"99\"\r\n\"98\"\r\n\"0\"\r\n");
+}
+
+TEST(HundredMegabytes, BehindACityFileAreLeft) {
+  gleich_hinter_hundert_megabyte(
+      "AC_CITY.DAT", "\"Nowhere\",\"1\",\"2\",\"3\",\"4\",\"5\",\"6\",\"7\",\"8\",\"9\"\r\n");
+}
+
+TEST(HundredMegabytes, BehindARefrigerantTableAreLeft) {
+  gleich_hinter_hundert_megabyte("R448A.DAT", "\"one text more, and one more after it\"\r\n");
+}
+
+TEST(HundredMegabytes, AsTheWorkingProjectAreNone) {
+  const Datenkopie daten;
+  daten.schreib("Temp_Sim.dat", "");
+  daten.verlaengere("Temp_Sim.dat", "\"R448A\"\r\n");
+  for (const Worte& befehl :
+       {Worte{"simulate"}, Worte{"point"}, Worte{"fans", "11"}, Worte{"project", "show", "-"},
+        Worte{"project", "show", "Temp_Sim.dat"}, Worte{"project", "save", "x.prj"}}) {
+    const Antwort a = daten.rufe(befehl);
+    EXPECT_EQ(a.status, 1) << befehl.back();
+    EXPECT_TRUE(hat(a.fehler, "Temp_Sim.dat") && hat(a.fehler, "too large to be a project"))
+        << a.fehler;
+  }
+}
+
+TEST(HundredMegabytes, InPlaceOfATableAreToldOrReplaced) {
+  const Datenkopie daten;
+  const std::string zeile = "\"one text over and over\"\r\n";
+  const auto ersetzt = [&](const char* datei) {
+    const std::string vorher = daten.lies(datei);
+    daten.schreib(datei, "");
+    daten.verlaengere(datei, zeile);
+    const Antwort a = daten.rufe({"simulate", kMarkt, "--json"});
+    daten.schreib(datei, vorher);
+    return a;
+  };
+  const Antwort gut = daten.rufe({"simulate", kMarkt, "--json"});
+  const Antwort kurs = ersetzt("JG_Temp.dat");
+  EXPECT_TRUE(hat(kurs.fehler, "The annual course (JG_Temp.dat) was made")) << kurs.fehler;
+  EXPECT_EQ(kurs.ausgabe, gut.ausgabe);
+  const Antwort tabelle = ersetzt("R448A.DAT");
+  EXPECT_EQ(tabelle.status, 1);
+  EXPECT_TRUE(hat(tabelle.fehler, "The table R448A.DAT is missing or empty")) << tabelle.fehler;
+  std::filesystem::remove(daten.pfad("JG_Temp.dat"));
+  const Antwort stadt = ersetzt("AC_CITY.DAT");
+  EXPECT_TRUE(hat(stadt.fehler, "The climate tables don't hold that city")) << stadt.fehler;
+}
+
+/// What was in the folder before, and only that.
+void unversehrt(const Datenkopie& daten, const std::map<std::string, std::string>& vorher) {
+  const auto nachher = daten.inhalt();
+  for (const auto& [name, inhalt] : vorher) EXPECT_EQ(nachher.at(name), inhalt) << name;
+  for (const auto& [name, inhalt] : nachher) EXPECT_TRUE(vorher.contains(name)) << name;
+}
+
+TEST(FullDisk, ResultsThatDoNotFitLeaveTheFormerOnes) {
+  const Datenkopie daten;
+  ASSERT_EQ(daten.rufe({"simulate", kMarkt}).status, 0);
+  daten.schreib("ERG_TEMP.DAT", "the year before");
+  daten.schreib("ergEN1.DAT", "its report");
+  const auto vorher = daten.inhalt();
+  const Antwort a = daten.rufe_mit_grenze(2, {"simulate", kMarkt, "--json"});
+  EXPECT_EQ(a.status, 1);
+  EXPECT_TRUE(hat(a.fehler, "ERG_TEMP.DAT") || hat(a.fehler, "ergEN1.DAT")) << a.fehler;
+  EXPECT_TRUE(a.json()["SCOP"].is_number());
+  unversehrt(daten, vorher);
+}
+
+TEST(FullDisk, AResultThatLeadsToAFullDeviceIsTold) {
+  for (const char* datei : {"ergEN1.DAT", "ERG_TEMP.DAT"}) {
+    const Datenkopie daten;
+    std::filesystem::create_symlink("/dev/full", daten.pfad(datei));
+    const Antwort a = daten.rufe({"simulate", kMarkt});
+    EXPECT_EQ(a.status, 1) << datei;
+    EXPECT_TRUE(hat(a.fehler, datei)) << a.fehler;
+    EXPECT_TRUE(std::filesystem::is_symlink(daten.pfad(datei)));
+  }
+}
+
+TEST(FullDisk, OpeningLeavesTheFormerWorkingProject) {
+  const Datenkopie daten;
+  const auto vorher = daten.inhalt();
+  const Antwort a = daten.rufe_mit_grenze(0, {"project", "open", "Ammonia process cooling.prj"});
+  EXPECT_EQ(a.status, 1);
+  EXPECT_TRUE(hat(a.fehler, "Temp_Sim.dat")) << a.fehler;
+  unversehrt(daten, vorher);
 }
 
 TEST(BadTable, AHundredMegabytesOfSettingsDoNoHarm) {

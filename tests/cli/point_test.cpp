@@ -126,12 +126,42 @@ TEST(Fans, AnotherTextCountsAsB) {
   EXPECT_EQ(j["R"], 109.0);
 }
 
-TEST(Fans, NoPowerGivesNoFigure) {
+TEST(Fans, WithoutAPowerThereIsNothingToJudge) {
   const Markt daten;
-  daten.rufe({"project", "derive", kMarkt, "--set", "Lueftcap=0", "--write"});
-  const Antwort a = daten.rufe({"fans", "11", kMarkt, "--json"});
-  EXPECT_EQ(a.status, 0) << a.fehler;
-  EXPECT_TRUE(a.json()["R"].is_null());
+  for (const char* wert : {"0", "", "--", "1e999", "-1"}) {
+    daten.rufe({"project", "derive", kMarkt, "--set", std::string("Lueftcap=") + wert, "--set",
+                std::string("LueftcapVerDa=") + wert, "--write"});
+    const Antwort a = daten.rufe({"fans", "11", kMarkt, "--json"});
+    EXPECT_EQ(a.status, 1) << wert;
+    EXPECT_EQ(a.ausgabe, "");
+    EXPECT_NE(a.fehler.find("There is no fan power to judge; code 12 gives one from a class."),
+              std::string::npos)
+        << a.fehler;
+    const Antwort b = daten.rufe({"fans", "21", kMarkt});
+    EXPECT_EQ(b.status, 1) << wert;
+    EXPECT_NE(b.fehler.find("There is no fan power to judge; code 22 gives one from a class."),
+              std::string::npos)
+        << b.fehler;
+    EXPECT_EQ(daten.rufe({"fans", "12", kMarkt}).status, 0) << wert;
+    EXPECT_EQ(daten.rufe({"fans", "22", kMarkt}).status, 0) << wert;
+  }
+}
+
+TEST(NoCop, EndsPointAndFansWithAMessage) {
+  for (const auto& [nummer, wert] : {std::pair{2, "0"}, {2, "-5"}, {44, "1e999"}}) {
+    const Markt daten;
+    daten.setze_item(kMarkt, nummer, wert);
+    for (const std::vector<std::string>& befehl :
+         {std::vector<std::string>{"point", kMarkt, "--json"},
+          {"point", kMarkt},
+          {"fans", "11", kMarkt},
+          {"fans", "22", kMarkt}}) {
+      const Antwort a = daten.rufe(befehl);
+      EXPECT_EQ(a.status, 1) << befehl.front();
+      EXPECT_EQ(a.ausgabe, "") << befehl.front();
+      EXPECT_NE(a.fehler.find("No COP comes out"), std::string::npos) << a.fehler;
+    }
+  }
 }
 
 }  // namespace

@@ -122,6 +122,22 @@ TEST(ProjectSave, ACompressorParkGoesWithItsProjectAndComesBack) {
   EXPECT_EQ(daten.rufe({"project", "show", ziel.pfad("rack.prj"), "--json"}).json()["tag"], "KOMP");
 }
 
+TEST(ProjectOpen, ALoadProjectWithoutLinesLeavesTheLoadFile) {
+  const Datenkopie daten;
+  for (const auto& [tag, last] :
+       {std::pair{"AC", "KlimaL.dat"}, {"CR", "KuehlL.dat"}, {"HX", "HX_ACT.dat"}}) {
+    daten.schreib(last, "\"21\"\r\n");
+    for (const char* rest : {"", "\r\n", "\r\n \r\n"}) {
+      daten.schreib("office.prj", std::string("\"Office\",\"3rd\",\"\",\"") + tag + "\"" + rest);
+      const Antwort a = daten.rufe({"project", "open", "office.prj"});
+      EXPECT_EQ(a.status, 1) << tag;
+      EXPECT_TRUE(hat(a.fehler, "office.prj") && hat(a.fehler, last)) << a.fehler;
+      EXPECT_TRUE(hat(a.fehler, "holds nothing behind its heading")) << a.fehler;
+      EXPECT_EQ(daten.lies(last), "\"21\"\r\n");
+    }
+  }
+}
+
 TEST(ProjectOpen, MakesAFileTheWorkingProject) {
   const Datenkopie daten;
   const std::string datei = daten.lies(kDairy);

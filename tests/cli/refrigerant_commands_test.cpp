@@ -86,6 +86,29 @@ TEST(Saturation, AMissingOrBrokenTableIsTold) {
   }
 }
 
+TEST(MissingTable, IsNamedAndNotMade) {
+  const Datenkopie daten;
+  const std::string ordner = daten.pfad();
+  std::filesystem::remove(daten.pfad("R134A.DAT"));
+  std::filesystem::remove(daten.pfad("CO2_sh01.dat"));
+  for (const std::vector<std::string>& aufruf :
+       {std::vector<std::string>{"saturation", "R134A", "--t", "0"},
+        {"saturation", "R134A", "--p", "3"},
+        {"cycle", "R134A", "--t0", "-10", "--tc", "40"}}) {
+    const Antwort a = daten.rufe(aufruf);
+    EXPECT_EQ(a.status, 1);
+    EXPECT_TRUE(hat(a.fehler, "R134A.DAT") && hat(a.fehler, ordner)) << a.fehler;
+  }
+  const Antwort a = daten.rufe({"cycle", "R744", "--t0", "-10", "--tc", "20"});
+  EXPECT_EQ(a.status, 1);
+  EXPECT_TRUE(hat(a.fehler, "CO2_sh01.dat") && hat(a.fehler, ordner)) << a.fehler;
+  EXPECT_FALSE(hat(a.fehler, "CO2.DAT"));
+  EXPECT_FALSE(daten.da("R134A.DAT"));
+  EXPECT_FALSE(daten.da("CO2_sh01.dat"));
+  // Saturation needs the first table alone.
+  EXPECT_EQ(daten.rufe({"saturation", "R744", "--t", "-10"}).status, 0);
+}
+
 TEST(Cycle, HoldsTheEnergyBalance) {
   const Datenkopie daten;
   const Antwort a =

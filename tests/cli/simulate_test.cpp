@@ -224,6 +224,55 @@ TEST(SimulateFailure, ACourseThatCanNotBeWrittenStopsTheRun) {
   EXPECT_FALSE(daten.da("ERG_TEMP.DAT"));
 }
 
+TEST(Simulate, ACourseOfAnotherLanguageGivesTheSameFigures) {
+  // A tower asks for the humidity of each month by its name.
+  const char* kTurm = "Ammonia process cooling.prj";
+  const Datenkopie daten;
+  const Antwort englisch = daten.rufe({"simulate", kTurm, "--new-course", "--json"});
+  ASSERT_EQ(englisch.status, 0) << englisch.fehler;
+  const std::string kurs = daten.lies("JG_Temp.dat");
+  ASSERT_TRUE(hat(kurs, "January"));
+  const Antwort deutsch = daten.rufe({"simulate", kTurm, "--json"}, {}, "GER");
+  ASSERT_EQ(deutsch.status, 0) << deutsch.fehler;
+  EXPECT_EQ(deutsch.fehler, "");
+  EXPECT_EQ(daten.lies("JG_Temp.dat"), kurs);
+  for (const char* name : {"SCOP", "E_Verd", "E_VFl_Luefter", "Wasser_Adiabat"})
+    EXPECT_NEAR(deutsch.json()[name].get<double>(), englisch.json()[name].get<double>(), 1e-9)
+        << name;
+  EXPECT_GT(englisch.json()["Wasser_Adiabat"].get<double>(), 0);
+}
+
+TEST(Simulate, ControlsBesideAProjectAreMentionedOnly) {
+  const Datenkopie daten;
+  const char* kCO2 = "CO2 supermarket.prj";
+  const std::string satz = "Controls for this project stand in \"" +
+                           daten.pfad("CO2 supermarket.json") + "\"; --options takes them.";
+  const TempOrdner anderswo;
+  const Antwort a = daten.rufe({"simulate", kCO2, "--json"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_TRUE(hat(a.fehler, "Controls for this project stand in") &&
+              hat(a.fehler, "CO2 supermarket.json\"; --options takes them."))
+      << a.fehler;
+  EXPECT_TRUE(hat(daten.rufe({"simulate", daten.pfad(kCO2)}).fehler, satz));
+  EXPECT_FALSE(
+      hat(daten.rufe({"simulate", kCO2, "--options", "CO2 supermarket.json"}).fehler, "Controls"));
+  EXPECT_FALSE(hat(daten.rufe({"simulate", kMarkt}).fehler, "Controls"));
+  EXPECT_FALSE(hat(daten.rufe({"simulate"}).fehler, "Controls"));
+}
+
+TEST(SimulateFailure, HoursWithoutACopAreTold) {
+  const Datenkopie daten;
+  daten.setze_item(kMarkt, 44, "1e999");  // DT_v_combo: no evaporating temperature comes out
+  const Antwort a = daten.rufe({"simulate", kMarkt, "--json"});
+  EXPECT_EQ(a.status, 1);
+  EXPECT_TRUE(hat(a.fehler, "288 of 288 hours have no COP; --verbose tells more.")) << a.fehler;
+  EXPECT_TRUE(a.json().contains("SCOP"));
+  daten.schreib("o.json", R"({"Rechart_combo": 0})");
+  const Antwort b = daten.rufe({"simulate", kMarkt, "--options", "o.json"});
+  EXPECT_EQ(b.status, 1);
+  EXPECT_TRUE(hat(b.fehler, "No COP comes out at the design point")) << b.fehler;
+}
+
 TEST(Simulate, PrintsTheReportOnRequest) {
   const Datenkopie daten;
   const Antwort a = daten.rufe({"simulate", kMarkt, "--report"});

@@ -76,6 +76,21 @@ TEST_F(Lastprojekt, AnotherMarkOrNoFileChangesNothing) {
   EXPECT_EQ(daten.lies("KlimaL.dat"), "kept");
 }
 
+TEST_F(Lastprojekt, OneWithoutLinesLeavesTheLoadFile) {
+  daten.schreib("KlimaL.dat", Zeilen);
+  for (const char* rest : {"", "\r\n", "\n \t\r\n\r\n"}) {
+    projekte.schreib("none.prj", std::string("\"A\",\"B\",\"\",\"AC\"") + rest);
+    EXPECT_TRUE(Lastprojekt_ohne_Zeilen(ablage, projekte.pfad("none.prj")));
+    EXPECT_FALSE(Lastprojekt_Oeffnen(ablage, projekte.pfad("none.prj")));
+    EXPECT_EQ(daten.lies("KlimaL.dat"), Zeilen);
+  }
+  EXPECT_EQ(meldungen.zeilen().size(), 3u);
+  EXPECT_FALSE(Lastprojekt_ohne_Zeilen(ablage, projekte.pfad("absent.prj")));
+  projekte.schreib("one.prj", "\"A\",\"B\",\"\",\"AC\"\r\n\"\"\r\n");
+  EXPECT_TRUE(Lastprojekt_Oeffnen(ablage, projekte.pfad("one.prj")));
+  EXPECT_EQ(daten.lies("KlimaL.dat"), "\"\"\r\n");
+}
+
 TEST(LastprojektName, ABlankNameBecomesTheDefaultName) {
   EXPECT_EQ(Lastprojekt_Name("", "Site 4"), "Site 4.prj");
   EXPECT_EQ(Lastprojekt_Name("   ", ""), "Projekt.prj");
