@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "konsole.h"
+#include "park.h"
 #include "shell/items.h"
 #include "shell/text.h"
 #include "simulation/projladen.h"
@@ -149,6 +150,8 @@ Projektdaten& projekt_laden(Sitzung& sitzung, const std::string& name) {
   }
   const std::string pfad = projektpfad(sitzung, name);
   const std::string datei = "The file \"" + name + "\"";
+  if (ist_park(name))
+    throw Abbruch(datei + " is a compressor park, not a project of the energy simulation.");
   const std::string inhalt = projekttext(p.ablage, pfad, datei);
   if (ohne_kopf(pfad)) {
     items_pruefen(inhalt, 0, datei);

@@ -92,6 +92,19 @@ TEST(Park, ATargetThatCanNotBeWrittenLeavesIt) {
   EXPECT_EQ(daten.lies("rack.VDD"), kAnderer);
 }
 
+TEST(Park, IsNoProjectOfTheSimulation) {
+  const Datenkopie daten;
+  for (const std::vector<std::string>& befehl :
+       {std::vector<std::string>{"simulate", "VerDpark.dat"},
+        {"project", "derive", "VerDpark.dat", "--write"},
+        {"project", "translate", "VerDpark.dat", "--to", "GER"}}) {
+    const Antwort a = daten.rufe(befehl);
+    EXPECT_EQ(a.status, 1);
+    EXPECT_TRUE(hat(a.fehler, "compressor park")) << a.fehler;
+  }
+  EXPECT_EQ(daten.lies("VerDpark.dat"), kPark);
+}
+
 TEST(Park, IsListedWithAllFilesAndDeleted) {
   const Datenkopie daten;
   const TempOrdner ordner;

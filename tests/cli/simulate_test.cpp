@@ -260,6 +260,21 @@ TEST(Simulate, ControlsBesideAProjectAreMentionedOnly) {
   EXPECT_FALSE(hat(daten.rufe({"simulate"}).fehler, "Controls"));
 }
 
+TEST(Simulate, SomeHoursWithoutACopAreToldAndTheRunStands) {
+  const Datenkopie daten;
+  ASSERT_EQ(daten.rufe({"simulate", kMarkt}).status, 0);
+  // A day so hot that no condensation is left in its warmest hours.
+  std::string kurs = daten.lies("JG_Temp.dat");
+  const std::size_t ort = kurs.find('\n', kurs.find("January")) + 1;
+  kurs.replace(ort, kurs.find('\r', ort) - ort, "\"400\"");
+  daten.schreib("JG_Temp.dat", kurs);
+  const Antwort a = daten.rufe({"--verbose", "simulate", kMarkt, "--json"});
+  EXPECT_EQ(a.status, 0) << a.fehler;
+  EXPECT_TRUE(hat(a.fehler, " of 288 hours have no COP; --verbose tells more.")) << a.fehler;
+  EXPECT_FALSE(hat(a.fehler, "288 of 288"));
+  EXPECT_TRUE(hat(a.fehler, "COP: ")) << a.fehler;
+}
+
 TEST(SimulateFailure, HoursWithoutACopAreTold) {
   const Datenkopie daten;
   daten.setze_item(kMarkt, 44, "1e999");  // DT_v_combo: no evaporating temperature comes out
