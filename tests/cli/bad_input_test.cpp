@@ -125,7 +125,7 @@ TEST(BadProject, ACutOffOneIsToldByEveryReaderAndStillOpens) {
 TEST(BadProject, AWorkingProjectThatIsNoneIsTold) {
   const Datenkopie daten;
   std::filesystem::create_directory(daten.pfad("there"));
-  const std::string binaer("\"R448A\"\r\n\0\0\"12\"\r\n", 18);
+  const std::string binaer = "\"R448A\"\r\n" + std::string(2, '\0') + "\"12\"\r\n";
   const std::vector<std::pair<std::string, std::string>> faelle{
       {binaer, "binary"}, {" \r\n\r\n\"\"\r\n", "holds no items"}};
   for (const auto& [inhalt, grund] : faelle) {
@@ -151,7 +151,7 @@ TEST(BadProject, AWorkingProjectThatIsNoneIsTold) {
 
 TEST(BadProject, ABinaryOneWithAHeadingIsTold) {
   const Datenkopie daten;
-  daten.schreib("zero.prj", std::string("\"a\",\"b\",\"\",\"SIM_PRO\"\r\n\"R448A\"\r\n\0\"", 37));
+  daten.schreib("zero.prj", "\"a\",\"b\",\"\",\"SIM_PRO\"\r\n\"R448A\"\r\n" + std::string(3, '\0'));
   alle_lehnen_ab(daten, "zero.prj");
   EXPECT_TRUE(hat(daten.rufe({"simulate", "zero.prj"}).fehler, "binary"));
 }
