@@ -95,7 +95,7 @@ void rechnen(Sitzung& sitzung, const Anfrage& anfrage) {
   stoff_waehlen(p, anfrage.stoff);
   if (!p.km.KM_Tabelle_da())
     throw Abbruch(fehlertext(Fehler::Datei_fehlt) + "\r\n" + tabelle_fehlt(p));
-  grenzen_pruefen(p.km, p.captions, anfrage.t0, anfrage.tc);
+  grenzen_pruefen(p, anfrage.t0, anfrage.tc);
   p.km.z.Klammer = {};  // so that no row of another search stands in
   const Ergebnis e = punkt(p.kreis, anfrage);
   if (ist_leer(e.COP))

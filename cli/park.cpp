@@ -39,11 +39,8 @@ bool derselbe(const Ablage& ablage, const std::string& pfad) {
   return std::filesystem::equivalent(ablage.pfad(pfad), ablage.pfad(kParkdatei), fehler);
 }
 
-// A rename that never leaves less than one whole copy, also from one file system to another.
 void umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
-  std::string bytes;
-  const bool gelesen = platte::lies(ablage.pfad(von), bytes) == 0;
-  if (!gelesen || !ablage.schreib_ganz(nach, bytes) || !ablage.Datei_Loeschen(von))
+  if (!Datei_umbenennen(ablage, von, nach))
     throw Abbruch(grund(ablage, "The compressor park could not be moved."));
 }
 

@@ -6,7 +6,8 @@
 namespace polarkreis::cli {
 
 Punkt punkt_bereit(Programm& p, Projektdaten& projekt, const std::string& wenn_nicht) {
-  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog});
+  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog,
+                   Einheiten::von(p.einstellungen[Einstellungen::Einheiten])});
   const Laufende ende = lauf.pruefen(projekt);
   if (ende == Laufende::Tabelle_fehlt) melde(tabelle_fehlt(p));
   if (ende != Laufende::fertig) throw Abbruch(wenn_nicht);

@@ -42,7 +42,8 @@ bool kurs_bereit(Programm& p, const Wuensche& w, Terminalfortschritt& fortschrit
 
 Rechnung rechnen(Programm& p, const Wuensche& w) {
   Terminalfortschritt fortschritt;
-  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog});
+  JahresLauf lauf({p.ablage, p.captions, p.kreis, p.klima, p.luft, p.wrg, p.dialog,
+                   Einheiten::von(p.einstellungen[Einstellungen::Einheiten])});
   lauf.fortschritt = &fortschritt;
   lauf.Kurs_oeffnen = [&] { return kurs_bereit(p, w, fortschritt); };
   return rechbutt(lauf, p.projekt, p.einstellungen[Einstellungen::Waehrung]);

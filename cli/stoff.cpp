@@ -7,17 +7,10 @@
 #include "shell/dialog.h"
 #include "shell/text.h"
 #include "shell/wert.h"
+#include "simulation/grenzen.h"
 #include "sitzung.h"
 
 namespace polarkreis::cli {
-
-namespace {
-
-[[noreturn]] void grenze(const std::string& text, std::string_view name, double wert) {
-  throw Abbruch(text + "\r\n" + std::string(name) + " = " + Zahl_Text(wert) + " °C !");
-}
-
-}  // namespace
 
 std::string tabelle_fehlt(const Programm& p) {
   std::vector<std::string> namen{p.km.z.RefFile};
@@ -47,11 +40,10 @@ void stoff_waehlen(Programm& p, const std::string& name) {
                   " is missing or empty in the data folder \"" + p.ablage.Datenordner + "\".");
 }
 
-void grenzen_pruefen(Kaeltemittel& km, const Captions& captions, double t0, double tc) {
-  km.KM_Grenzen();
-  if (t0 < km.z.tmin) grenze(captions.text(Caption::Unter_tmin), "tmin", km.z.tmin);
-  if (tc < t0) throw Abbruch(captions.text(Caption::Tc_unter_t0));
-  if (tc > km.z.tmax) grenze(captions.text(Caption::Ueber_tmax), "tmax", km.z.tmax);
+void grenzen_pruefen(Programm& p, double t0, double tc) {
+  if (const auto text = Grenzen_Text(
+          p.km, p.captions, Einheiten::von(p.einstellungen[Einstellungen::Einheiten]), t0, tc))
+    throw Abbruch(*text);
 }
 
 }  // namespace polarkreis::cli

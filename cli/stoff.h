@@ -16,6 +16,6 @@ std::string tabelle_fehlt(const Programm& p);
 
 /// Checks the temperatures of a point in °C against the refrigerant's limits of use. Throws
 /// `Abbruch` with the program's own words.
-void grenzen_pruefen(Kaeltemittel& km, const Captions& captions, double t0, double tc);
+void grenzen_pruefen(Programm& p, double t0, double tc);
 
 }  // namespace polarkreis::cli

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cycle/verdichter.h"
 #include "refrigerant/kaeltemittel.h"
 
 namespace polarkreis {
@@ -33,6 +34,10 @@ class Kreis {
   /// Discharge temperature in K. `size` compressor power in kW, pressures in bar absolute, `T_s`
   /// inlet in K. Sets `T_is`. A part that fails counts as 0, as with `p_d` below `p_s`.
   double Verd_Endtemp(double size, double p_s, double p_d, double T_s, double kappa);
+
+  /// The same in two steps, for several sizes at one state.
+  Verdichtung Verdichtung_von(double p_s, double p_d, double T_s, double kappa) const;
+  double Verd_Endtemp(const Verdichtung& verdichtung, double size);
 
   /// Motor factor for a compressor power in kW, at most 1.52.
   double Motor_Faktor(double size) const;

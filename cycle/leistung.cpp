@@ -27,12 +27,11 @@ Leistungen aus_CO2_Tabelle(Kaeltemittel& km, const Eingang& e, double h_1, doubl
   return {(z.h_d_co2 - h_1) * e.m, anteil * (z.h_d_co2 - h_1) * e.m};
 }
 
-Leistungen durchgang(Kreis& kreis, const Eingang& e, double size) {
+Leistungen durchgang(Kreis& kreis, const Eingang& e, const Verdichtung& v, double size) {
   Kaeltemittel& km = kreis.km;
   const KMZustand& z = km.z;
   double t_d = e.t_d;
-  if (e.mode == 0)
-    t_d = kreis.Verd_Endtemp(size, e.p_s, e.p_d, e.t_s + nullpunkt, z.kappa) - nullpunkt;
+  if (e.mode == 0) t_d = kreis.Verd_Endtemp(v, size) - nullpunkt;
   const double h_1 = e.h_v0 + (e.t_s - (e.T0 - nullpunkt)) * z.cp_v0;
   if (!std::isfinite(t_d) || !std::isfinite(h_1)) return {};  // before the table is asked
   const bool zweistufig = z.Zweistufig == 1 || z.Zweistufig == 2;
@@ -59,11 +58,14 @@ double Kreis::Verd_Leistung(double p_s, double p_d, double T0, double Tc, double
   const bool geschaetzt = !(diagnose && gespeicherte_Leistung != 0);
   double size = geschaetzt ? 5 : gespeicherte_Leistung;
 
-  Leistungen l = durchgang(*this, eingang, size);
+  // The sizes of both passes meet the same state.
+  const Verdichtung v =
+      mode == 0 ? Verdichtung_von(p_s, p_d, t_s + nullpunkt, z.kappa) : Verdichtung();
+  Leistungen l = durchgang(*this, eingang, v, size);
   if (l.fehlt()) return leer;
   if (geschaetzt) {
     size = l.P <= 0 ? 10 : l.P;
-    l = durchgang(*this, eingang, size);
+    l = durchgang(*this, eingang, v, size);
     if (l.fehlt()) return leer;
   }
 
@@ -72,11 +74,11 @@ double Kreis::Verd_Leistung(double p_s, double p_d, double T0, double Tc, double
   if (size == 0) size = 10;
   const double g = Motor_Faktor(size);
   if (!std::isfinite(g)) return leer;
-  const double v = Frequenz_Faktor(Frequenz_Option);
+  const double frequenz = Frequenz_Faktor(Frequenz_Option);
   double P = l.P;
   if (mode == 0 && size < 2) P = P * (1 + 5.5 * (2 - size) / 100);
   const double eta = l.P_is / P;
-  const double ergebnis = mode == 0 ? P : P * e * g * v * 0.93;
+  const double ergebnis = mode == 0 ? P : P * e * g * frequenz * 0.93;
   if (!std::isfinite(eta) || !std::isfinite(ergebnis)) return leer;
   z.eta_is = eta;
   z.P_verd = ergebnis;

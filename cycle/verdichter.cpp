@@ -43,27 +43,38 @@ double Kreis::Motor_Faktor(double size) const {
   return g > 1.52 ? 1.52 : g;
 }
 
-double Kreis::Verd_Endtemp(double size, double p_s, double p_d, double T_s, double kappa) {
-  KMZustand& z = km.z;
-  double n1 = 0, n2 = 0, r = 0, a = 0, b = 0, c = 0, T_1 = 0, T_2 = 0, g = 0, d = 0, k = 0;
+Verdichtung Kreis::Verdichtung_von(double p_s, double p_d, double T_s, double kappa) const {
+  const KMZustand& z = km.z;
+  Verdichtung v;
+  double n1 = 0, n2 = 0, r = 0;
   setze(n1, (kappa - 1) / kappa);
   setze(n2, (z.kappa2 - 1) / z.kappa2);
   setze(r, p_d / p_s);
-  setze(a, std::pow(r / 4.85, 0.05));
-  setze(b, std::pow((p_d - p_s) / (z.Zweistufig != 0 ? 16.3 : 13.7), 0.27));
-  setze(c, (z.Tc - 318) * 0.373);
-  c = std::max(c, 0.0);
-  setze(T_1, T_s * std::pow(r, n1));
-  setze(T_2, T_s * std::pow(r, n2));
+  setze(v.a, std::pow(r / 4.85, 0.05));
+  setze(v.b, std::pow((p_d - p_s) / (z.Zweistufig != 0 ? 16.3 : 13.7), 0.27));
+  setze(v.c, (z.Tc - 318) * 0.373);
+  v.c = std::max(v.c, 0.0);
+  setze(v.T_1, T_s * std::pow(r, n1));
+  setze(v.T_2, T_s * std::pow(r, n2));
+  return v;
+}
+
+double Kreis::Verd_Endtemp(const Verdichtung& v, double size) {
+  KMZustand& z = km.z;
+  double T_1 = v.T_1, g = 0, d = 0, k = 0;
   const double e = Bauart_Faktor(z.Bauart);
   setze(g, Motor_Faktor(size));
   if (z.Antrieb == 1) setze(g, g * 0.98);
   if (z.Antrieb == 3) setze(g, g * 1.02);
   setze(d, (T_1 - z.Tc) * e * g);
   setze(T_1, z.Tc + d);
-  setze(k, d * (1 - a * b) - c);
-  setze(z.T_is, T_2 - k);
+  setze(k, d * (1 - v.a * v.b) - v.c);
+  setze(z.T_is, v.T_2 - k);
   return T_1 - k;
+}
+
+double Kreis::Verd_Endtemp(double size, double p_s, double p_d, double T_s, double kappa) {
+  return Verd_Endtemp(Verdichtung_von(p_s, p_d, T_s, kappa), size);
 }
 
 double Kreis::Verd_Wirkungsgrad(double p_d, double dp_d, double p_s, double dp_s, double size) {

@@ -4,22 +4,12 @@
 #include <cmath>
 
 #include "shell/text.h"
+#include "simulation/grenzen.h"
 
 namespace polarkreis {
 
 JahresLauf::JahresLauf(const Laufmittel& mittel)
     : m_(mittel), punkt_(mittel.kreis, mittel.captions, mittel.dialog) {}
-
-namespace {
-
-void Grenze_zeigen(const Laufmittel& m, Caption caption, std::string_view name, double grad_C) {
-  m.dialog.zeige(m.captions.text(caption) + "\r\n" + std::string(name) + " = " +
-                     Zahl_Text(m.einheiten.Temperatur(grad_C)) + " " +
-                     std::string(m.einheiten.Temperatureinheit()) + " !",
-                 "", Symbol::hinweis);
-}
-
-}  // namespace
 
 Laufende JahresLauf::pruefen(Projektdaten& projekt) {
   Kaeltemittel& km = m_.kreis.km;
@@ -33,7 +23,6 @@ Laufende JahresLauf::pruefen(Projektdaten& projekt) {
     FehlerBOX(m_.dialog, Fehler::Datei_fehlt);
     return Laufende::Tabelle_fehlt;
   }
-  km.KM_Grenzen();
   for (const auto& [name, text] :
        {std::pair{"t0", projekt.t0}, {"Tc", projekt.Tc}, {"Q0", projekt.Q0}}) {
     if (std::isfinite(Wert(text))) continue;
@@ -41,18 +30,9 @@ Laufende JahresLauf::pruefen(Projektdaten& projekt) {
                     Symbol::hinweis);
     return Laufende::Grenze;
   }
-  const double t0 = Wert(projekt.t0);
-  const double tc = Wert(projekt.Tc);
-  if (t0 < km.z.tmin) {
-    Grenze_zeigen(m_, Caption::Unter_tmin, "tmin", km.z.tmin);
-    return Laufende::Grenze;
-  }
-  if (tc < t0) {
-    m_.dialog.zeige(m_.captions.text(Caption::Tc_unter_t0), "", Symbol::hinweis);
-    return Laufende::Grenze;
-  }
-  if (tc > km.z.tmax) {
-    Grenze_zeigen(m_, Caption::Ueber_tmax, "tmax", km.z.tmax);
+  if (const auto text =
+          Grenzen_Text(km, m_.captions, m_.einheiten, Wert(projekt.t0), Wert(projekt.Tc))) {
+    m_.dialog.zeige(*text, "", Symbol::hinweis);
     return Laufende::Grenze;
   }
   return Laufende::fertig;

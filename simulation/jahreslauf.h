@@ -149,6 +149,7 @@ class JahresLauf {
 /// A receiver that composes the result file "ERG_TEMP.DAT".
 class Ergebnisdatei : public Stundenempfaenger {
  public:
+  Ergebnisdatei() { inhalt_.reserve(48'000); }
   void monat(const Monatszeile& zeile) override;
   void stunde(const Stundenwerte& werte) override;
   /// Puts the file in place; false if it could not be written.

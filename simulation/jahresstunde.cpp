@@ -7,6 +7,15 @@
 
 namespace polarkreis {
 
+namespace {
+
+/// A sum grows by a value that could be worked out.
+void addiere(double& summe, double wert) {
+  setze(summe, summe + wert);
+}
+
+}  // namespace
+
 void JahresLauf::schritt(Laufergebnis& e) {
   Anlage& a = e.anlage;
   Jahressummen& s = e.summen;
@@ -87,7 +96,7 @@ void JahresLauf::warmwasser(Jahressummen& s) {
   setze(s_.P_WW_verf, geschnitten(s_.Q_K * s_.last / 100 * s_.anteil));
   setze(s_.deckung, Int(s_.P_WW_verf / P_WW_ * 1000) / 10);
   s_.deckung = std::min(s_.deckung, 100.0);
-  s.Q_Wasser += s_.P_WW_verf * s_.tage;
+  addiere(s.Q_Wasser, s_.P_WW_verf * s_.tage);
 }
 
 /// Heating with the condenser's heat, behind the hot water where both are served. The heating sums
@@ -105,11 +114,11 @@ void JahresLauf::heizen(const Anlage& a, Jahressummen& s) {
   if (!a.WaterCheck) {
     s.Q_Wasser = 0;
     s_.deckung = 0;
-    s_.P_H = geschnitten(s_.P_H);
+    setze(s_.P_H, geschnitten(s_.P_H));
   } else {
-    s_.P_H = Int(100 * (s_.P_H - P_WW_)) / 100;
-    s.Q_Wasser += P_WW_ * s_.tage;
-    s_.WW_Tag += P_WW_;
+    setze(s_.P_H, Int(100 * (s_.P_H - P_WW_)) / 100);
+    addiere(s.Q_Wasser, P_WW_ * s_.tage);
+    addiere(s_.WW_Tag, P_WW_);
     if (s_.h == 24) {
       setze(s_.WW_Anteil, Int(1000 * s_.WW_Tag / (P_WW_ * 24)) / 10);
       s_.WW_Tag = 0;
@@ -117,34 +126,34 @@ void JahresLauf::heizen(const Anlage& a, Jahressummen& s) {
   }
   setze(s_.k, s_.P_H / s_.last_heiz);
   s_.k = std::max(s_.k, 0.0);
-  s.Q_Heiz += s_.k >= 1 ? s_.last_heiz : s_.k * s_.last_heiz;
-  s.Q_Heiz_Bedarf += s_.last_heiz;
+  addiere(s.Q_Heiz, s_.k >= 1 ? s_.last_heiz : s_.k * s_.last_heiz);
+  addiere(s.Q_Heiz_Bedarf, s_.last_heiz);
 }
 
 /// Compressor energy, and what free cooling saves of it.
 void JahresLauf::verdichter(Anlage& a, Jahressummen& s) {
   setze(s_.P_el, (1 / s_.COP) * a.Q0 * s_.last / 100);
-  s_.e_verd = s_.P_el * s_.tage;
+  setze(s_.e_verd, s_.P_el * s_.tage);
   if (a.FreeC_Check && s_.t_luft + a.dt_freeC < punkt_.werte().t0_eff + a.dt_Verd) {
     if (a.PumpCap == 0) a.PumpCap = 0.03 * a.Q0;
-    s_.P_el = (a.Pel_freeCool + a.PumpCap) * s_.last / 100;
+    setze(s_.P_el, (a.Pel_freeCool + a.PumpCap) * s_.last / 100);
     const double frei = s_.P_el * s_.tage;
-    s.E_FreeCool_Spar += s_.e_verd - frei;
-    s_.e_verd = frei;
+    addiere(s.E_FreeCool_Spar, s_.e_verd - frei);
+    setze(s_.e_verd, frei);
   }
-  s.E_Verd += s_.e_verd;
+  addiere(s.E_Verd, s_.e_verd);
 }
 
 void JahresLauf::wasser(const Anlage& a, Jahressummen& s) {
   if (!(s_.wasser_an > 0)) return;
   const double verdampfung = (2500.5 - (s_.t_luft + a.dt_freeC) * 47.2 / 20) * s_.faktor;
-  setze(s.Wasser_Adiabat, s.Wasser_Adiabat + 3600 * (s_.COP + 1) * s_.P_el / verdampfung * s_.tage);
+  addiere(s.Wasser_Adiabat, 3600 * (s_.COP + 1) * s_.P_el / verdampfung * s_.tage);
 }
 
 void JahresLauf::abtauung(const Anlage& a, Jahressummen& s) {
   if (a.Abtauart != 0) return;
-  s_.P_ab = 2.2 * a.Q0 * s_.last / 100 * (t_abtau_ / 60) / 24;
-  s.E_Abtau += s_.P_ab * s_.tage;
+  setze(s_.P_ab, 2.2 * a.Q0 * s_.last / 100 * (t_abtau_ / 60) / 24);
+  addiere(s.E_Abtau, s_.P_ab * s_.tage);
 }
 
 /// Fans and pumps. The condenser fans would stop at 12 °C condensing temperature.
@@ -162,20 +171,20 @@ void JahresLauf::ventilatoren(const Anlage& a, Jahressummen& s) {
   } else {
     s_.f = 0;
   }
-  s_.P_L = s_.f * a.Lueftcap * last_l / 100;
-  s.E_VFl_Luefter += s_.P_L * s_.tage;
-  s_.P_VDa = a.LueftcapVerDa * s_.last / 100;
-  s.E_VDa_Luefter += s_.P_VDa * s_.tage;
-  s_.P_Pumpe = a.PumpCap * last_p / 100;
-  s.E_Pumpe += s_.P_Pumpe * s_.tage;
-  if (s_.P_L < 0) s_.E_negativ += s_.P_L * s_.tage;
-  if (s_.last == 0) s_.E_ohne_Last += (std::max(s_.P_L, 0.0) + s_.P_Pumpe) * s_.tage;
+  setze(s_.P_L, s_.f * a.Lueftcap * last_l / 100);
+  addiere(s.E_VFl_Luefter, s_.P_L * s_.tage);
+  setze(s_.P_VDa, a.LueftcapVerDa * s_.last / 100);
+  addiere(s.E_VDa_Luefter, s_.P_VDa * s_.tage);
+  setze(s_.P_Pumpe, a.PumpCap * last_p / 100);
+  addiere(s.E_Pumpe, s_.P_Pumpe * s_.tage);
+  if (s_.P_L < 0) addiere(s_.E_negativ, s_.P_L * s_.tage);
+  if (s_.last == 0) addiere(s_.E_ohne_Last, (std::max(s_.P_L, 0.0) + s_.P_Pumpe) * s_.tage);
 }
 
 void JahresLauf::mittelwerte(Jahressummen& s) {
   if (!(s_.last > 0)) return;
-  s.Vollast_Tage += s_.last / 100 * s_.tage;
-  setze(s.COP_Sum, s.COP_Sum + s_.COP * s_.last / 100 * s_.tage);
+  addiere(s.Vollast_Tage, s_.last / 100 * s_.tage);
+  addiere(s.COP_Sum, s_.COP * s_.last / 100 * s_.tage);
   const double cop = gerundet(s_.COP);
   if (cop < s.COP_min) s.COP_min = cop;
   if (cop > s.COP_max) s.COP_max = cop;

@@ -45,13 +45,6 @@ std::string parkdatei_von(std::string_view projektdatei) {
   return Ordner_von(projektdatei) + std::string(endung ? name.substr(0, punkt) : name) + ".VDD";
 }
 
-// A rename that never leaves less than one whole copy, also from one file system to another.
-bool umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
-  std::string bytes;
-  return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes) &&
-         ablage.Datei_Loeschen(von);
-}
-
 }  // namespace
 
 void ProjLaden::oeffnen(Browsermodus modus, std::string_view tag, std::string_view ordner) {
@@ -141,15 +134,21 @@ std::string ProjLaden::projektdatei() const {
   return (ordner_.empty() ? ablage_.Datenordner + "/" : ordner_) + Dateiname;
 }
 
+bool Datei_umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
+  std::string bytes;
+  return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes) &&
+         ablage.Datei_Loeschen(von);
+}
+
 bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
   if (!Modul_mit_Park(tag) || !ablage.vorhanden(Parkdatei)) return true;
-  return umbenennen(ablage, Parkdatei, parkdatei_von(projektdatei));
+  return Datei_umbenennen(ablage, Parkdatei, parkdatei_von(projektdatei));
 }
 
 bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
   if (!Modul_mit_Park(tag)) return true;
   const std::string park = parkdatei_von(projektdatei);
-  if (ablage.vorhanden(park)) return umbenennen(ablage, park, Parkdatei);
+  if (ablage.vorhanden(park)) return Datei_umbenennen(ablage, park, Parkdatei);
   ablage.meldungen().melde("park_laden", park, "missing: the park stays as it is");
   return true;
 }

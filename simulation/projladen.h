@@ -94,6 +94,10 @@ void PrLoesch(const Projektdaten& form, ProjLaden& browser, std::string_view tag
 /// file is removed. False, and the reason shown in a box, if that fails.
 bool Browser_bestaetigen(Projektdaten& form, ProjLaden& browser);
 
+/// Gives a file another name, in one folder or another, without ever leaving less than one whole
+/// copy; false, and the old file as it was, on a failure.
+bool Datei_umbenennen(Ablage& ablage, std::string_view von, std::string_view nach);
+
 /// The name rule of a save: a name without an extension gets ".prj", any other extension than
 /// ".PRJ" (in any case) is cut at the first point and replaced. A folder before the name stays.
 std::string Projektdatei_Name(std::string_view name);

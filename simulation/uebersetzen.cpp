@@ -48,10 +48,10 @@ std::optional<std::string> zweiteilig(const Richtung& richtung, std::string_view
   for (std::size_t ort = text.find(trenner); ort != std::string_view::npos;
        ort = text.find(trenner, ort + 1)) {
     const std::string_view vorn = text.substr(0, ort), hinten = text.substr(ort + trenner.size());
-    const std::string neu_vorn = uebersetzt(richtung, links, vorn);
+    std::string neu_vorn = uebersetzt(richtung, links, vorn);
     const std::string neu_hinten = uebersetzt(richtung, rechts, hinten);
     if (neu_vorn != vorn || neu_hinten != hinten)
-      return neu_vorn + std::string(trenner) + neu_hinten;
+      return neu_vorn.append(trenner).append(neu_hinten);
   }
   return std::nullopt;
 }
