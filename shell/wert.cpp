@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace polarkreis {
 
@@ -203,21 +204,38 @@ void dezimal_anhaengen(std::string& target, const Dezimal& zahl) {
   }
 }
 
-/// Most numbers that are stored are whole hundredths: they need integer formatting only.
-bool hundertstel_anhaengen(std::string& target, double betrag) {
-  if (!(betrag < 1e11)) return false;
-  const std::int64_t hundertstel = std::llrint(betrag * 100);
-  if (static_cast<double>(hundertstel) / 100 != betrag) return false;
-  std::array<char, 24> puffer;
-  char* ende = std::to_chars(puffer.data(), puffer.data() + 20, hundertstel / 100).ptr;
-  const auto rest = static_cast<char>(hundertstel % 100);
+/// Appends `teile` / 10^stellen without trailing zeros.
+void festkomma_anhaengen(std::string& target, std::int64_t teile, std::int64_t teiler,
+                         int stellen) {
+  std::array<char, 32> puffer;
+  char* ende = std::to_chars(puffer.data(), puffer.data() + 20, teile / teiler).ptr;
+  std::int64_t rest = teile % teiler;
   if (rest > 0) {
+    while (rest % 10 == 0) {
+      rest /= 10;
+      --stellen;
+    }
     *ende++ = '.';
-    *ende++ = static_cast<char>('0' + rest / 10);
-    if (rest % 10 > 0) *ende++ = static_cast<char>('0' + rest % 10);
+    ende += stellen;
+    for (char* ziffer = ende; stellen-- > 0; rest /= 10) {
+      *--ziffer = static_cast<char>('0' + rest % 10);
+    }
   }
   target.append(puffer.data(), ende);
-  return true;
+}
+
+/// Most numbers that are stored have two or four decimals, but for the noise of their calculation:
+/// they need integer formatting only. Noise below 4e-16 of the number is less than half a unit of
+/// its fifteenth digit.
+bool kurze_anhaengen(std::string& target, double betrag) {
+  if (!(betrag < 1e9)) return false;
+  for (const auto& [teiler, stellen] : {std::pair{100, 2}, {10000, 4}}) {
+    const std::int64_t teile = std::llrint(betrag * teiler);
+    if (std::fabs(static_cast<double>(teile) / teiler - betrag) > 4e-16 * betrag) continue;
+    festkomma_anhaengen(target, teile, teiler, stellen);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -226,7 +244,7 @@ void Zahl_anhaengen(std::string& target, double value) {
   if (!std::isfinite(value)) return;
   if (value < 0) target += '-';
   const double betrag = std::fabs(value);
-  if (!hundertstel_anhaengen(target, betrag)) dezimal_anhaengen(target, dezimal(betrag));
+  if (!kurze_anhaengen(target, betrag)) dezimal_anhaengen(target, dezimal(betrag));
 }
 
 std::string Zahl_Text(double value) {

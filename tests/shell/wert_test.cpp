@@ -197,6 +197,10 @@ TEST(ZahlText, AgreesWithThePrintedFormOverRandomNumbers) {
     vergleiche(ganze(zufall) / 100.0);
     vergleiche(ganze(zufall) / 1000.0);
     vergleiche(std::nextafter(ganze(zufall) / 100.0, 1e9));
+    vergleiche(ganze(zufall) / 10000.0);
+    const double rauschen = ganze(zufall) / 10.0 - 0.97 * (ganze(zufall) / 10.0);
+    vergleiche(rauschen);
+    vergleiche(rauschen * (1 + (i % 17 - 8) * 1.1102230246251565e-16));
   }
 }
 
