@@ -132,13 +132,19 @@ bool tabelle(std::map<std::string, double>& ms) {
 }
 
 int laufen(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
+  // The machine's speed moves while it measures: repetitions of all take turns, so that ratios
+  // hold.
+  std::vector<char*> argumente(argv, argv + argc);
+  std::string abwechselnd = "--benchmark_enable_random_interleaving=true";
+  argumente.push_back(abwechselnd.data());
+  int anzahl = static_cast<int>(argumente.size());
+  benchmark::Initialize(&anzahl, argumente.data());
   Datenkopie daten;
   std::vector<std::unique_ptr<Anlagenlauf>> laeufe;
   bool gleich = true;
   for (const Muster& m : muster) {
-    auto& lauf = *laeufe.emplace_back(
-        std::make_unique<Anlagenlauf>(daten.ordner(), m.datei, m.freie_kuehlung, m.heizung));
+    auto& lauf =
+        *laeufe.emplace_back(std::make_unique<Anlagenlauf>(m.datei, m.freie_kuehlung, m.heizung));
     Ablage& ablage = lauf.programm().ablage;
     lauf.rechnen();
     const std::string mit_kopie = lauf.dateien();

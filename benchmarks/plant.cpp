@@ -1,6 +1,9 @@
 #include "plant.h"
 
+#include <stdlib.h>
 #include <unistd.h>
+
+#include <stdexcept>
 
 #include "platform/dateiwache.h"
 
@@ -19,7 +22,10 @@ fs::path ablageort() {
 
 }  // namespace
 
-Datenkopie::Datenkopie() : pfad_(ablageort() / ("polarkreis-bench-" + std::to_string(getpid()))) {
+Datenkopie::Datenkopie() {
+  std::string muster = (ablageort() / "polarkreis-bench-XXXXXX").string();
+  if (mkdtemp(muster.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  pfad_ = muster;
   fs::copy(POLARKREIS_DATA, pfad_, fs::copy_options::recursive);
 }
 
@@ -28,9 +34,9 @@ Datenkopie::~Datenkopie() {
   fs::remove_all(pfad_, ignored);
 }
 
-Anlagenlauf::Anlagenlauf(const std::string& ordner, const std::string& projekt, bool freie_kuehlung,
-                         bool heizung)
-    : programm_(std::make_unique<Programm>(ordner, stumm_)) {
+Anlagenlauf::Anlagenlauf(const std::string& projekt, bool freie_kuehlung, bool heizung)
+    : programm_(std::make_unique<Programm>(daten_.ordner(), stumm_)) {
+  const std::string ordner = daten_.ordner();
   Programm& p = *programm_;
   p.laden("ENG");
   p.ablage.setze_wache(Dateiwache_machen(ordner));

@@ -22,6 +22,8 @@ class Datenkopie {
   Datenkopie();
   ~Datenkopie();
   std::string ordner() const { return pfad_.string(); }
+  Datenkopie(const Datenkopie&) = delete;
+  Datenkopie& operator=(const Datenkopie&) = delete;
 
  private:
   std::filesystem::path pfad_;
@@ -30,8 +32,7 @@ class Datenkopie {
 /// A sample plant, opened with its options and course, ready to be calculated as often as wanted.
 class Anlagenlauf {
  public:
-  Anlagenlauf(const std::string& ordner, const std::string& projekt, bool freie_kuehlung,
-              bool heizung);
+  Anlagenlauf(const std::string& projekt, bool freie_kuehlung, bool heizung);
 
   Rechnung rechnen();
   /// "ERG_TEMP.DAT" and "ergEN1.DAT" as they stand.
@@ -39,6 +40,7 @@ class Anlagenlauf {
   Programm& programm() { return *programm_; }
 
  private:
+  Datenkopie daten_;  // of its own: a watch hears of no one else's files
   Stumm stumm_;
   std::unique_ptr<Programm> programm_;
   std::unique_ptr<JahresLauf> lauf_;
