@@ -88,7 +88,7 @@ void drucke(const Tabelle& roh) {
 }
 
 std::string anzeige(double value) {
-  const std::string ganz = Zahl_Text(value);
+  std::string ganz = Zahl_Text(value);
   const std::size_t punkt = ganz.find('.');
   // Figures far below one would be cut to nothing.
   const bool klein = std::abs(value) < 1;

@@ -1,10 +1,12 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "shell/captions.h"
+#include "shell/dialog.h"
 #include "shell/start/version.h"
 #include "sitzung.h"
 #include "zahlen.h"
@@ -66,6 +68,8 @@ int ausfuehren(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& fehler) {
     return parser_status(app, fehler);
+  } catch (const std::bad_alloc&) {
+    sitzung.fehler(fehlertext(Fehler::Speicher_voll));
   } catch (const std::exception& fehler) {
     sitzung.fehler(fehler.what());
   }

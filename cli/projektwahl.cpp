@@ -101,7 +101,7 @@ std::string projekttext(Ablage& ablage, const std::string& pfad, const std::stri
 
 std::string projektpfad(Sitzung& sitzung, const std::string& name) {
   Ablage& ablage = sitzung.programm().ablage;
-  const std::string pfad = Projektdatei_Pfad(ablage, name);
+  std::string pfad = Projektdatei_Pfad(ablage, name);
   const std::string ort = ablage.pfad(pfad);
   std::error_code fehler;
   if (fs::is_directory(name, fehler) || fs::is_directory(ort, fehler))

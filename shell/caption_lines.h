@@ -39,6 +39,7 @@ enum class Caption {
   Ende = 9,
   Projekt = 25,
   Ende_Frage = 38,
+  Datei_beschaedigt = 43,
   Projektname_fehlt = 44,
   Zahl_noetig = 46,
   Unter_tmin = 53,

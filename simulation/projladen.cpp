@@ -91,7 +91,13 @@ bool ProjLaden::oeffnen_bestaetigen() {
     FehlerBOX(dialog_, Fehler::Datei_fehlt);
     return false;
   }
-  if (!Lastdatei(tag_).empty()) return gelungen(Lastprojekt_Oeffnen(ablage_, projektdatei()));
+  if (!Lastdatei(tag_).empty()) {
+    if (Lastprojekt_ohne_Zeilen(ablage_, projektdatei())) {
+      dialog_.zeige(captions_.text(Caption::Datei_beschaedigt), Titel, Symbol::fehler);
+      return false;
+    }
+    return gelungen(Lastprojekt_Oeffnen(ablage_, projektdatei()));
+  }
   return gelungen(park_laden(ablage_, tag_, projektdatei()));
 }
 

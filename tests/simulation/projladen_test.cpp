@@ -75,6 +75,17 @@ TEST_F(ProjLadenListe, AnEmptyFolderTextIsTheDataFolder) {
   EXPECT_EQ(browser.projektdatei(), daten.pfad("here.prj"));
 }
 
+TEST_F(ProjLadenListe, ALoadProjectWithoutLinesIsToldAndLeavesTheLoadFile) {
+  nummerierte_captions();
+  daten.schreib("KlimaL.dat", "as it was");
+  projekte.schreib("bare.prj", kopf("Office", "", "AC"));
+  browser.oeffnen(Browsermodus::oeffnen, "AC", projekte.pfad());
+  browser.waehlen(0);
+  EXPECT_FALSE(browser.bestaetigen());
+  EXPECT_EQ(dialog.texte.back(), "line 43");
+  EXPECT_EQ(daten.lies("KlimaL.dat"), "as it was");
+}
+
 TEST_F(ProjLadenListe, TheSelectedLineIsShownWithTheProjectWord) {
   nummerierte_captions();
   projekte.schreib("a.prj", kopf("Dairy", "milk, cheese", "SIM_PRO"));
