@@ -10,15 +10,16 @@ namespace {
 std::size_t anforderungen = 0;  // of this program; its one thread counts them
 }
 
-void* operator new(std::size_t groesse) {
+// Inlined, the compiler would see malloc and delete meet.
+[[gnu::noinline]] void* operator new(std::size_t groesse) {
   ++anforderungen;
   if (void* p = std::malloc(groesse ? groesse : 1)) return p;
   throw std::bad_alloc();
 }
-void operator delete(void* p) noexcept {
+[[gnu::noinline]] void operator delete(void* p) noexcept {
   std::free(p);
 }
-void operator delete(void* p, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
   std::free(p);
 }
 
