@@ -100,6 +100,9 @@ class Ablage {
   /// the target.
   bool schreib_ganz(std::string_view name, std::string_view inhalt,
                     Haltbarkeit = Haltbarkeit::sicher);
+  /// Appends a record in one write, whole or not at all; false on a failure, and the file holds
+  /// what it held. The file is made if it is absent.
+  bool haenge_an(std::string_view name, std::string_view satz, Haltbarkeit = Haltbarkeit::sicher);
   /// Removes the file. The read-only mark is cleared first. False, and the fixed message in
   /// `letzter_fehler` (line end + "Can not delete/overwrite file:   - " + name + " - "), if it
   /// can't be removed.

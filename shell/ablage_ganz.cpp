@@ -25,6 +25,16 @@ bool Ablage::schreib_ganz(std::string_view name, std::string_view inhalt, Haltba
   return true;
 }
 
+bool Ablage::haenge_an(std::string_view name, std::string_view satz, Haltbarkeit haltbarkeit) {
+  const std::string wo = pfad(name);
+  int fehler = platte::mache_ordner(platte::ort(wo).ordner);
+  if (fehler == 0) fehler = platte::haenge_satz_an(wo, satz, haltbarkeit == Haltbarkeit::sicher);
+  if (fehler != 0) return misslungen(wo, platte::grund(fehler));
+  letzter_fehler_.clear();
+  alles_pruefen();
+  return true;
+}
+
 bool Ablage::Datei_Loeschen(std::string_view name) {
   const std::string wo = pfad(name);
   const int fehler = platte::loesche(wo);

@@ -1,5 +1,7 @@
 #include "shell/captions.h"
 
+#include <numeric>
+
 #include "shell/text.h"
 
 namespace polarkreis {
@@ -66,17 +68,41 @@ Captions::Zeilen Captions::lade(Stamm stamm, std::string_view sprache) const {
   return zeilen;
 }
 
+namespace {
+
+std::vector<int> alle_zeilen(Stamm stamm) {
+  std::vector<int> alle(static_cast<std::size_t>(stammform(stamm).zeilen));
+  std::iota(alle.begin(), alle.end(), 1);
+  return alle;
+}
+
+}  // namespace
+
 std::string Captions::Caption_Uebersetzen(Stamm stamm, std::string_view von, std::string_view nach,
                                           std::string_view text) const {
-  std::vector<int> alle(static_cast<std::size_t>(stammform(stamm).zeilen));
-  for (std::size_t i = 0; i < alle.size(); ++i) alle[i] = static_cast<int>(i) + 1;
-  return Caption_Uebersetzen(stamm, alle, von, nach, text);
+  return Caption_Uebersetzen(stamm, alle_zeilen(stamm), von, nach, text);
 }
 
 std::string Captions::Caption_Uebersetzen(Stamm stamm, std::span<const int> zeilen,
                                           std::string_view von, std::string_view nach,
                                           std::string_view text) const {
-  if (getrimmt(text).empty()) return std::string(text);
+  return suche(stamm, zeilen, von, nach, text).value_or(std::string(text));
+}
+
+std::string Captions::Caption_Uebersetzen(std::string_view von, std::string_view nach,
+                                          std::string_view text) const {
+  for (std::size_t n = 0; n < Stammzahl; ++n) {
+    const auto stamm = static_cast<Stamm>(n);
+    if (auto neu = suche(stamm, alle_zeilen(stamm), von, nach, text)) return *std::move(neu);
+  }
+  return std::string(text);
+}
+
+// The text in the new language, or nothing where the old file doesn't hold it.
+std::optional<std::string> Captions::suche(Stamm stamm, std::span<const int> zeilen,
+                                           std::string_view von, std::string_view nach,
+                                           std::string_view text) const {
+  if (getrimmt(text).empty()) return std::nullopt;
   const Zeilen alte = lade(stamm, von);
   for (int zeile : zeilen) {
     if (zeile < 1 || static_cast<std::size_t>(zeile) > alte.size()) continue;
@@ -86,7 +112,7 @@ std::string Captions::Caption_Uebersetzen(Stamm stamm, std::span<const int> zeil
     const Zeilen neue = lade(stamm, nach);
     return getrimmt(neue[i]).empty() ? std::string(text) : neue[i];
   }
-  return std::string(text);
+  return std::nullopt;
 }
 
 }  // namespace polarkreis

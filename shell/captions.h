@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -69,10 +70,15 @@ class Captions {
   /// The same for the given lines of a stem only.
   std::string Caption_Uebersetzen(Stamm stamm, std::span<const int> zeilen, std::string_view von,
                                   std::string_view nach, std::string_view text) const;
+  /// The same in all nine files: the first, in their load order, that holds the text counts.
+  std::string Caption_Uebersetzen(std::string_view von, std::string_view nach,
+                                  std::string_view text) const;
 
  private:
   using Zeilen = std::vector<std::string>;
   Zeilen lade(Stamm stamm, std::string_view sprache) const;
+  std::optional<std::string> suche(Stamm stamm, std::span<const int> zeilen, std::string_view von,
+                                   std::string_view nach, std::string_view text) const;
   Ablage& ablage_;
   std::array<Zeilen, Stammzahl> texte_;
 };

@@ -213,6 +213,21 @@ int haenge_an(const std::string& pfad, std::string_view inhalt) {
   return datei.schliesse();
 }
 
+int haenge_satz_an(const std::string& pfad, std::string_view satz, bool sicher) {
+  Deskriptor datei(::open(pfad.c_str(),
+                          O_CREAT | O_APPEND | O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666));
+  if (!datei) return errno;
+  struct stat vorher {};
+  if (::fstat(datei.nummer(), &vorher) != 0) return errno;
+  int fehler = schreib_alles(datei.nummer(), satz);
+  if (fehler == 0 && sicher && ::fdatasync(datei.nummer()) != 0 && errno != EINVAL) fehler = errno;
+  if (fehler != 0) {
+    if (S_ISREG(vorher.st_mode) && ::ftruncate(datei.nummer(), vorher.st_size) != 0) return errno;
+    return fehler;
+  }
+  return datei.schliesse();
+}
+
 int loesche(const std::string& pfad) {
   struct stat stand {};
   if (::lstat(pfad.c_str(), &stand) != 0) return errno == ENOENT ? 0 : errno;

@@ -2,8 +2,9 @@
 # Installs the Debian packages named in the arguments' lists that are missing. Sourced lists: build, test, bench.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
-test=(libgtest-dev clang-format python3 git)
+build=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libserialport-dev libfreexl-dev libzip-dev
+  libpugixml-dev libxlsxwriter-dev)
+test=(libgtest-dev clang-format python3 git libreoffice-calc-nogui)
 bench=(libbenchmark-dev)
 
 wanted=()

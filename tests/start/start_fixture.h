@@ -13,15 +13,9 @@
 #include "shell/start/start.h"
 #include "support/temp_folder.h"
 #include "support/test_dialog.h"
+#include "support/test_uhr.h"
 
 namespace polarkreis {
-
-/// A clock that only notes how long it was to wait.
-class TestUhr : public Uhr {
- public:
-  std::vector<int> gewartet;
-  void Warten(int n) override { gewartet.push_back(n); }
-};
 
 /// A suite of which the siblings are there or not; keeps the hand-over that lay ready at the start.
 class TestGeschwister : public Programmstart {
@@ -44,7 +38,7 @@ class TestGeschwister : public Programmstart {
 struct StartTest : testing::Test {
   TempOrdner daten;
   TestDialog dialog;
-  TestUhr uhr;
+  ::TestUhr uhr;
   TestGeschwister geschwister{daten};
   Programm programm{"", dialog};
   Start start{programm, uhr, geschwister};
