@@ -58,7 +58,9 @@ void ProjLaden::oeffnen(Browsermodus modus, std::string_view tag, std::string_vi
 
 void ProjLaden::liste_lesen() {
   zeile_ = static_cast<std::size_t>(-1);
+  teile_ = false;
   eintraege.clear();
+  if (ist_Import(modus_)) return messdateien_listen();
   for (const std::string& datei : ablage_.liste(ordner_, ".prj")) {
     const auto kopf = kopf_lesen(ablage_, ordner_ + datei);
     if (kopf && Tag_passt((*kopf)[3], tag_)) eintraege.push_back({datei, (*kopf)[0], (*kopf)[1]});
@@ -69,7 +71,7 @@ void ProjLaden::waehlen(std::size_t zeile) {
   if (zeile >= eintraege.size()) return;
   zeile_ = zeile;
   Dateiname = eintraege[zeile].datei;
-  if (modus_ == Browsermodus::speichern) return;
+  if (modus_ == Browsermodus::speichern || ist_Import(modus_)) return;
   ProjektNam = eintraege[zeile].name;
   ProBeschr = eintraege[zeile].beschreibung;
 }
@@ -77,12 +79,14 @@ void ProjLaden::waehlen(std::size_t zeile) {
 std::string ProjLaden::auswahl_text() const {
   if (zeile_ >= eintraege.size()) return {};
   const Projekteintrag& e = eintraege[zeile_];
+  if (ist_Import(modus_)) return e.name;
   return captions_.text(Caption::Projekt) + " " + e.name + ", " + e.beschreibung;
 }
 
 bool ProjLaden::bestaetigen() {
   if (modus_ == Browsermodus::speichern) return speichern_bestaetigen();
   if (getrimmt(Dateiname).empty()) return false;
+  if (ist_Import(modus_)) return import_bestaetigen();
   return modus_ == Browsermodus::loeschen ? loeschen_bestaetigen() : oeffnen_bestaetigen();
 }
 

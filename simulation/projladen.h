@@ -12,8 +12,19 @@
 
 namespace polarkreis {
 
-/// What the project browser was opened for.
-enum class Browsermodus { oeffnen = 1, speichern = 2, loeschen = 5 };
+/// What the project browser was opened for: projects, or foreign measurement files.
+enum class Browsermodus {
+  oeffnen = 1,
+  speichern = 2,
+  loeschen = 5,
+  Arbeitsblatt = 161,  ///< worksheets of other instruments, ".xls" and ".xlsx"
+  Loggerdatei = 171,   ///< the logger's own files, ".adc"
+  Steuertext = 178,    ///< text files of control systems, ".txt"
+};
+/// True for the modes of the measurement files.
+constexpr bool ist_Import(Browsermodus modus) {
+  return static_cast<int>(modus) >= static_cast<int>(Browsermodus::Arbeitsblatt);
+}
 
 /// One project file of the folder.
 struct Projekteintrag {
@@ -39,11 +50,17 @@ class ProjLaden {
 
   /// Opens on a folder (with or without its trailing separator; empty is the data folder) and lists
   /// its files "*.prj" of the module `tag`. An empty tag in a file is accepted only for the modules
-  /// "KOMP" and "VERB". Clears the name field; name and description stay for a save.
+  /// "KOMP" and "VERB". The modes of the measurement files list those, whatever the tag. Clears the
+  /// name field; name and description stay for a save.
   void oeffnen(Browsermodus modus, std::string_view tag, std::string_view ordner);
   /// Selects line `zeile` (from 0): its file goes to the name field and, except on saving, its name
   /// and description to theirs.
   void waehlen(std::size_t zeile);
+  /// Offers the parts of a measurement file that is too long for one reading: the list holds
+  /// "Import Part 1" and so on, the name field the file.
+  void Teile_anbieten(int teile);
+  /// The chosen part, from 1; 0 while none is.
+  int Teil() const;
   /// The text of the selected line; empty without one.
   std::string auswahl_text() const;
   /// Completes the browser's own part. Opening: the park or the load file of the module is put in
@@ -59,6 +76,8 @@ class ProjLaden {
 
  private:
   void liste_lesen();
+  void messdateien_listen();
+  bool import_bestaetigen();
   bool oeffnen_bestaetigen();
   bool speichern_bestaetigen();
   bool loeschen_bestaetigen();
@@ -71,6 +90,7 @@ class ProjLaden {
   std::string tag_;
   std::string ordner_;  // with its trailing separator
   std::size_t zeile_ = static_cast<std::size_t>(-1);
+  bool teile_ = false;  // the list holds the parts of one file
 };
 
 /// What became of a save.
