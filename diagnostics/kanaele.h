@@ -5,7 +5,6 @@
 #include <string>
 
 #include "shell/ablage.h"
-#include "shell/captions.h"
 
 namespace polarkreis {
 
@@ -38,13 +37,21 @@ struct Skalierung {
 };
 
 /// "FMD_SP_CAL.dat": the four free inputs " Orbiter 1 inX7" to " Orbiter 2 inX8", and the
-/// monitoring switch. A missing file gives empty texts.
+/// monitoring switch.
 struct Eingangsskalierung {
   std::array<Skalierung, 4> Kanal;
-  std::string Monitoring_Check;  ///< "0" or "1"
+  std::optional<std::string> Monitoring_Check;  ///< "0" or "1"; nothing where no file told it
   bool operator==(const Eingangsskalierung&) const = default;
 };
-Eingangsskalierung Eingangsskalierung_lesen(std::optional<std::string>&& text);
+/// Reads the file's text. A missing (or empty) file makes every text empty and the switch "0"; a
+/// short one leaves in `target` what lies beyond its end.
+void Eingangsskalierung_lesen(const std::optional<std::string>& text, Eingangsskalierung& target);
+/// The file's text: 24 lines and the switch.
+std::string Eingangsskalierung_schreiben(const Eingangsskalierung& skalierung);
+
+/// The two files of the calibration.
+inline constexpr const char* Offsetdatei = "FMD_OFFS.dat";
+inline constexpr const char* Skalierungsdatei = "FMD_SP_CAL.dat";
 
 /// Channels: where the positions of a reply go, their offsets and scalings. One object serves the
 /// link, the imports and the kernel.
@@ -64,17 +71,24 @@ class Kanaele {
   /// of a foreign source's temperatures. Mode 3 (positions 9 to 16): the offset slot. Others: 0.
   int Chanel_festleg(int position, int mode) const;
 
-  /// Reads "FMD_OFFS.dat": the first 32 values. A short file leaves the slots beyond its end, a
-  /// missing one gives zeros and `Box_Typ` 0.
+  /// Reads "FMD_OFFS.dat": the first 32 values, so the slots of the second remote unit stay as they
+  /// were. A short file leaves the slots beyond its end, a missing one gives zeros.
   void Offset_laden();
-  /// Writes the 48 values, one a line; false if the file could not be written.
+  /// Writes the 48 values, one a line; false if the file could not be written (see
+  /// `Ablage::letzter_fehler`).
   bool Offset_Speich();
 
   /// Scales a free input by "FMD_SP_CAL.dat": `channel` 1 to 4. Mass flow in kg/h, volume flow in
-  /// m³/h; empty where there is no scaling. Sets `Box_Typ` and `Label21` from the same file.
+  /// m³/h; empty where there is no scaling. `kind` has no meaning, callers give 0. Sets `Box_Typ`
+  /// and `Label21` by the switch in the same file: a missing file gives 0, a file that ends before
+  /// the switch leaves both as they are.
   double Kablib_x7_8(double value, int kind, int channel);
+  /// The scalings in force; a form shows the first two. Valid until the next call.
+  const Eingangsskalierung& Skalierungen();
 
  private:
+  void Modus_setzen(const std::optional<std::string>& schalter);
+
   Ablage& ablage_;
   Dateikopie<Eingangsskalierung> skalierung_;
 };
