@@ -8,9 +8,11 @@
 
 namespace polarkreis {
 
-/// Control marks of the report: one before a heading, one between the label and the value columns.
+/// Control marks of the reports: one before a heading, one between the label and the value columns,
+/// one between the columns of a table.
 inline constexpr std::string_view Marke_Kopf = "&$$";
 inline constexpr std::string_view Marke_Spalte = "§$&";
+inline constexpr std::string_view Marke_Tabelle = "&%!";
 
 /// The report as text, as "ergEN1.DAT" holds it: lines with CR LF.
 std::string Bericht_Text(const Projektdaten& projekt, const Laufergebnis& lauf,
@@ -24,12 +26,13 @@ bool Ergebnis_Schreiben(const Projektdaten& projekt, const Laufergebnis& lauf,
 struct Berichtszeile {
   bool kopf = false;
   bool lineal = false;
-  std::string text;  ///< the label, or the whole line
-  std::string wert;  ///< the value column; empty where the line has none
+  std::string text;                       ///< the label, or the whole line
+  std::string wert;                       ///< the value column; empty where the line has none
+  std::vector<std::string> spalten = {};  ///< a table's columns behind the label
 };
 
-/// The report editor without its form: opens the report, splits its lines at the marks and turns
-/// pages.
+/// The report editor without its form: opens a report (lines as they stand, or each one quoted
+/// text), splits its lines at the marks and turns pages.
 class ErgebEdit {
  public:
   explicit ErgebEdit(Ablage& ablage) : ablage_(ablage) {}

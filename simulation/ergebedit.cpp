@@ -1,11 +1,26 @@
 #include <algorithm>
 
+#include "shell/items.h"
 #include "shell/text.h"
 #include "simulation/bericht.h"
 
 namespace polarkreis {
 
 namespace {
+
+/// Takes a table's columns off the line, so that the label is left.
+std::vector<std::string> abgetrennt(std::string_view& zeile) {
+  std::vector<std::string> spalten;
+  std::size_t marke = zeile.find(Marke_Tabelle);
+  std::string_view rest = zeile;
+  zeile = zeile.substr(0, marke);
+  while (marke != std::string_view::npos) {
+    rest.remove_prefix(marke + Marke_Tabelle.size());
+    marke = rest.find(Marke_Tabelle);
+    spalten.emplace_back(getrimmt(rest.substr(0, marke)));
+  }
+  return spalten;
+}
 
 Berichtszeile zerlegt(std::string_view roh) {
   Berichtszeile z;
@@ -15,6 +30,7 @@ Berichtszeile zerlegt(std::string_view roh) {
     z.kopf = true;
     roh.remove_prefix(Marke_Kopf.size());
   }
+  z.spalten = abgetrennt(roh);
   const std::size_t spalte = roh.find(Marke_Spalte);
   z.text = std::string(roh.substr(0, spalte));
   if (spalte != std::string_view::npos) {
@@ -36,7 +52,7 @@ bool ErgebEdit::oeffnen(std::string_view name) {
     std::string_view zeile = rest.substr(0, ende);
     rest.remove_prefix(ende == std::string_view::npos ? rest.size() : ende + 1);
     if (zeile.ends_with('\r')) zeile.remove_suffix(1);
-    zeilen.push_back(zerlegt(zeile));
+    zeilen.push_back(zeile.starts_with('"') ? zerlegt(ItemLeser(zeile).lies()) : zerlegt(zeile));
   }
   return !zeilen.empty();
 }
