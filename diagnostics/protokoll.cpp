@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "diagnostics/familie.h"
 #include "diagnostics/messzeiten.h"
 #include "diagnostics/mittelwerte.h"
 #include "diagnostics/zeiten.h"
@@ -80,7 +81,7 @@ void mehrzeilig(Blatt& b, std::string_view text) {
 }
 
 void Ueberschrift(Blatt& b, const Vorlage& v) {
-  b.kopf("Polarkreis DiaGnostics : " + v.c.text(Caption::Messergebnis));
+  b.kopf(verbunden({Familienname, " DiaGnostics : ", v.c.text(Caption::Messergebnis)}));
   mehrzeilig(b, v.m.ProjektNam);
   mehrzeilig(b, v.m.ProBeschr);
   b.leerzeile();
