@@ -13,7 +13,8 @@ class Messquelle {
  public:
   explicit Messquelle(Ablage& ablage) : ablage_(ablage) {}
 
-  /// 111 while the source is active, else 0.
+  static constexpr int aktiv = 111;
+  /// `aktiv` while the source is, else 0.
   int Quelle_ISS = 0;
   /// Where the two kinds of control system write.
   std::array<std::string, 2> Pfad{"C:\\Daten\\KKP_FMD_TEMP.txt", "C:\\TK_output\\TK_FMD_TEMP.txt"};
