@@ -12,7 +12,7 @@ namespace polarkreis {
 namespace {
 
 constexpr std::string_view Trenner = " - ";
-constexpr std::string_view Zusatz_Economizer = " - Economizer";
+constexpr std::string_view Text_Economizer = "Economizer";
 
 /// Rows of the list of channels: the first point of each unit, and the headings of the remote ones.
 constexpr int Master_Zeile = 2;
@@ -33,12 +33,6 @@ Teile geteilt(std::string_view text) {
 /// Equal to a caption that the language has.
 bool ist(std::string_view text, const std::string& caption) {
   return !getrimmt(text).empty() && gleich(text, caption);
-}
-
-bool ist_Economizer(std::string_view variante, const Captions& captions) {
-  // A project of another language carries the translated word.
-  return gleich(variante, Zusatz_Economizer.substr(Trenner.size())) ||
-         ist(variante, captions.text(VerbCapt::Economiser));
 }
 
 /// Where a point sits.
@@ -105,7 +99,7 @@ VerbCapt Stromabnehmer(std::string_view text, const Captions& captions) {
 std::string Schema_Text(const Anlagenschema& schema, const Captions& captions) {
   std::string text = captions.text(schema.zweistufig ? Caption::Zweistufig : Caption::Einstufig);
   if (schema.Variante == Anlagenschema::transkritisch) text.append(Trenner) += Text_transkritisch;
-  if (schema.Variante == Anlagenschema::Economizer) text += Zusatz_Economizer;
+  if (schema.Variante == Anlagenschema::Economizer) text.append(Trenner) += Text_Economizer;
   return text;
 }
 
@@ -115,7 +109,7 @@ std::optional<Anlagenschema> Schema_von(std::string_view text, const Captions& c
   if (text.find(Text_transkritisch) != std::string_view::npos)
     return Anlagenschema{zweistufig, Anlagenschema::transkritisch};
   if (!zweistufig && !ist(art, captions.text(Caption::Einstufig))) return std::nullopt;
-  if (ist_Economizer(variante, captions))
+  if (gleich(variante, Text_Economizer))
     return Anlagenschema{zweistufig, Anlagenschema::Economizer};
   if (!getrimmt(variante).empty()) return std::nullopt;
   return Anlagenschema{zweistufig, Anlagenschema::einfach};

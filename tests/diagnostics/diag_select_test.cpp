@@ -73,8 +73,6 @@ TEST_F(DiaGSelect, TheTranscriticalTextComesFirst) {
 TEST_F(DiaGSelect, OtherWordsAreComparedTrimmedAndInAnyCase) {
   formular.Type_Select("two-STAGE -  economizer ");
   EXPECT_EQ(bilder(formular), "Komp2 Econ Cond1 Chanel ");
-  formular.Type_Select("Two-stage - Economiser");
-  EXPECT_EQ(bilder(formular), "Komp2 Econ Cond1 Chanel ") << "as a translated project has it";
 }
 
 TEST_F(DiaGSelect, WithoutCaptionsOnlyTheFixedTextIsKnown) {
