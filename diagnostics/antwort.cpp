@@ -32,6 +32,10 @@ int Box_Typ_von(std::string_view antwort) {
   return grosse.find('A') != std::string::npos ? 2 : 0;
 }
 
+AntwortLeser::AntwortLeser(std::string_view antwort) : rest_(antwort) {
+  if (rest_.starts_with(Messbefehl)) rest_.remove_prefix(Messbefehl.size());
+}
+
 bool AntwortLeser::abtrennen(std::size_t ende, std::size_t weiter, std::string_view& token) {
   token = rest_.substr(0, ende);
   rest_.remove_prefix(weiter);

@@ -85,6 +85,11 @@ TEST(AntwortLeser, EndsWhereNeitherBlankNorOkIsLeft) {
   EXPECT_EQ(tokens(""), Texte{});
 }
 
+TEST(AntwortLeser, PassesOverAnEchoBeforeTheReply) {
+  EXPECT_EQ(tokens("ec %*\r230.1 4.2 12:05:09ok"), (Texte{"230.1", "4.2", "12:05:09"}));
+  EXPECT_EQ(tokens(Messbefehl), Texte{});
+}
+
 TEST(AntwortLeser, TakesAnyBytes) {
   std::mt19937 zufall(7);
   for (int runde = 0; runde < 2000; ++runde) {
