@@ -33,8 +33,8 @@ class Solen {
   /// unknown name. The lowest temperature is not looked at.
   double Konzentration(std::string_view name, double t);
   /// Temperature in °C at which the first crystals form at the concentration `c` [%]. For glycols
-  /// below -15 °C it lies above the frost protection temperature that asked for `c`: the pipes are
-  /// safe, but the fluid thickens.
+  /// below -15 °C it lies above the frost protection temperature that asked for `c`: the fluid
+  /// turns to slush on the way down (see docs/data-brines.md).
   double Gefriertemperatur(std::string_view name, double c);
 
   /// Density in kg/m³ and specific heat in kJ/(kg K) at `t` [°C] and the concentration `c` [%].

@@ -80,8 +80,8 @@ constexpr Solepolynom kGlykosolNWaerme{20,
                                          {0.00136399, -0.00122829, 0.00468752},
                                          {-1.01726e-05, 5.37532e-06}}}};
 constexpr Gefrierstelle kGlykosolNGefrieren[] = {{10, -3},  {15, -5},  {20, -8},  {25, -12},
-                                                {30, -16}, {35, -21}, {40, -26}, {45, -32},
-                                                {50, -38}, {55, -45}, {60, -53}};
+                                                 {30, -16}, {35, -21}, {40, -26}, {45, -32},
+                                                 {50, -38}, {55, -45}, {60, -53}};
 
 // Potassium acetate, % by volume of the concentrate: fitted to the table of its maker.
 constexpr Solepolynom kTyfoxitDichte{
