@@ -180,12 +180,18 @@ TEST(LoggerSim, WhatIsNotThereIsAnError) {
 }
 
 TEST(LoggerSim, FileWhoseReaderLeftDoesntSpoilTheNextReply) {
-  Gespraech g({"--file", "BIG.adc=" + std::string(POLARKREIS_DATA) + "/CO2_sh01.dat"});
+  const TempOrdner ordner;
+  std::string inhalt;
+  for (int i = 0; i < 600; ++i) inhalt += std::to_string(i) + std::string(400, '.') + "\r\n";
+  ordner.schreib("big", inhalt + "end");
+  Gespraech g({"--file", "BIG.adc=" + ordner.pfad("big")});
   for (int i = 0; i < 3; ++i) {
-    g.frage("up BIG.adc", "\"", 1);
-    ::usleep(50'000);
-    const std::string antwort = g.probe();
-    EXPECT_EQ(woerter(antwort).size(), 18U) << antwort.substr(0, 200);
+    g.frage("up-c BIG.adc", "12.", 30);
+    ::usleep(60'000);
+    EXPECT_EQ(woerter(g.probe()).size(), 18U);
+    g.frage("up-c BIG.adc", "12.", 30);
+    ::usleep(60'000);
+    EXPECT_TRUE(g.frage("up BIG.adc", "end") == inhalt + "end") << "the file from its beginning";
   }
 }
 

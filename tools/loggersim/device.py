@@ -25,6 +25,7 @@ class Device:
         self.clock = datetime.datetime.now() if step == 0 else datetime.datetime(2026, 3, 1, 8, 0, 0)
         self._input, self._output, self._later = b"", b"", []
         self._samples = 0
+        self._transfer = False  # the last reply was a file
         self._seen = time.monotonic()
         self._alive = True
 
@@ -65,7 +66,7 @@ class Device:
     def _serve(self, command):
         if self.faults.dead or not command:
             return
-        self._drop_unsent()
+        self._end_transfer()
         reply = command + b"\r" if self.echo else b""
         text = command.decode("ascii", "replace")
         if text == "ec %*":
@@ -74,11 +75,12 @@ class Device:
             reply += self._file_command(text).encode("cp1252", "replace")
         self._later.append((time.monotonic() + self.faults.delay(self.random), reply))
 
-    def _drop_unsent(self):
-        """A new command ends the answer to the one before: a file whose reader has gone stops here."""
-        if self._output:
+    def _end_transfer(self):
+        """A new command ends the sending of a file: what its reader left lying is no reply to this one."""
+        if self._transfer:
             self._output = b""
             termios.tcflush(self._far_end, termios.TCIFLUSH)
+        self._transfer = False
 
     def _reply(self):
         values = self.faults.values(self.source.texts(), self.random)
@@ -103,7 +105,8 @@ class Device:
             return self._renamed(" ".join(names[:-1]), names[-1])
         if verb in ("up", "up-c") and names:
             content = self.memory.get(" ".join(names))
-            return "error: no such file\r\n" if content is None else content
+            self._transfer = content is not None
+            return content if self._transfer else "error: no such file\r\n"
         return "error: unknown command\r\n"
 
     def _renamed(self, name, to):
