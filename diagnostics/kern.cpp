@@ -84,7 +84,7 @@ bool Kern::rechenkern(Fortschritt& fortschritt) {
   messung_.MittelW_Spread.leeren();
   ueberdruck_.sammeln();
   const int letzte = messung_.letzte_Zeile();
-  const int anzahl = letzte - Messtabelle::Erste + 1;
+  const int anzahl = messung_.Messpunkte();
   bool weiter = true;
   for (int zeile = Messtabelle::Erste; weiter && zeile <= letzte; ++zeile) {
     if (messung_.DiaSpread.text(zeile, Spalte::Zeit).empty()) break;
