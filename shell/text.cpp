@@ -159,7 +159,9 @@ std::size_t folgenlaenge(std::string_view text) {
   return folgt(1) && folgt(2) && folgt(3) ? 4 : 0;
 }
 
-bool ist_utf8(std::string_view text) {
+/// Length of the text's beginning that is UTF-8.
+std::size_t utf8_laenge(std::string_view text) {
+  const std::size_t ganz = text.size();
   while (!text.empty()) {
     std::uint64_t acht = 0;
     while (text.size() >= sizeof acht) {
@@ -169,10 +171,21 @@ bool ist_utf8(std::string_view text) {
     }
     if (text.empty()) break;
     const std::size_t laenge = folgenlaenge(text);
-    if (laenge == 0) return false;
+    if (laenge == 0) return ganz - text.size();
     text.remove_prefix(laenge);
   }
-  return true;
+  return ganz;
+}
+
+/// True if all that is wrong with a UTF-8 text is its end: a character cut off, as a write that
+/// stopped midway leaves it, and perhaps a tail of NUL bytes. `gut` is the length of what is right.
+bool nur_abgeschnitten(std::string_view bytes, std::size_t gut) {
+  std::string_view rest = bytes.substr(gut);
+  rest = rest.substr(0, rest.find_last_not_of('\0') + 1);
+  const auto kopf = static_cast<unsigned char>(rest.front());
+  if (rest.size() > 3 || kopf < 0xC2 || kopf > 0xF4) return false;
+  if (!std::all_of(rest.begin() + 1, rest.end(), ist_folgebyte)) return false;
+  return !std::all_of(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(gut), ist_ascii);
 }
 
 /// Windows-1252, bytes 0x80 to 0x9F; the five that mean nothing keep their number.
@@ -196,8 +209,10 @@ std::string aus_windows_1252(std::string_view bytes) {
 std::string als_utf8(std::string bytes) {
   constexpr std::string_view Marke = "\xEF\xBB\xBF";
   if (bytes.starts_with(Marke)) bytes.erase(0, Marke.size());
-  if (ist_utf8(bytes)) return bytes;
-  return aus_windows_1252(bytes);
+  const std::size_t gut = utf8_laenge(bytes);
+  if (gut == bytes.size()) return bytes;
+  const std::size_t ab = nur_abgeschnitten(bytes, gut) ? gut : 0;
+  return bytes.substr(0, ab) + aus_windows_1252(std::string_view(bytes).substr(ab));
 }
 
 }  // namespace polarkreis

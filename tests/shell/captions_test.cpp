@@ -155,3 +155,38 @@ TEST_F(UebersetzenTest, UnknownAndEmptyTextsStay) {
 TEST_F(UebersetzenTest, TextStaysWhereTheNewLanguageHasNone) {
   EXPECT_EQ(von_nach("Kühlraum", "GER", "XXX"), "Kühlraum");
 }
+
+namespace {
+
+struct AlleStaemmeTest : CaptionsTest {
+  void SetUp() override {
+    ordner.schreib("VerbCapt.GER", "\"Verdichter\"\r\n\"Doppelt\"\r\n");
+    ordner.schreib("VerbCapt.ENG", "\"Compressor\"\r\n\"First\"\r\n");
+    ordner.schreib("Caption.GER", "\"Doppelt\"\r\n\"Einstufig\"\r\n\"Nur alt\"\r\n");
+    ordner.schreib("Caption.ENG", "\"Second\"\r\n\"Single-stage\"\r\n");
+    ordner.schreib("PEDcap.GER", "\"Niedrig\"\r\n");
+    ordner.schreib("PEDcap.ENG", "\"Low\"\r\n");
+  }
+  std::string neu(std::string_view text) const {
+    return captions.Caption_Uebersetzen("GER", "ENG", text);
+  }
+};
+
+}  // namespace
+
+TEST_F(AlleStaemmeTest, TextIsFoundInAnyFile) {
+  EXPECT_EQ(neu("Verdichter"), "Compressor");
+  EXPECT_EQ(neu(" EINSTUFIG "), "Single-stage");
+  EXPECT_EQ(neu("Niedrig"), "Low");
+}
+
+TEST_F(AlleStaemmeTest, FirstFileInLoadOrderCounts) {
+  EXPECT_EQ(neu("Doppelt"), "First");
+}
+
+TEST_F(AlleStaemmeTest, UnknownAndEmptyTextsStay) {
+  EXPECT_EQ(neu("Sonderbau "), "Sonderbau ");
+  EXPECT_EQ(neu(""), "");
+  EXPECT_EQ(neu(" "), " ");
+  EXPECT_EQ(neu("Nur alt"), "Nur alt");
+}

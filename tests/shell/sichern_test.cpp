@@ -254,3 +254,50 @@ TEST_F(SichernTest, DeletingAFolderIsRefusedWithTheFixedText) {
 TEST_F(SichernTest, DeletingAnAbsentFileIsNoFailure) {
   EXPECT_TRUE(ablage.Datei_Loeschen("a.dat"));
 }
+
+TEST_F(SichernTest, RecordsAreAppendedAndTheFileIsMade) {
+  EXPECT_TRUE(ablage.haenge_an("a.dat", "one\r\n"));
+  EXPECT_TRUE(ablage.haenge_an("A.DAT", "two", Haltbarkeit::wiederholbar));
+  EXPECT_TRUE(ablage.haenge_an("a.dat", ""));
+  EXPECT_EQ(ordner.lies("a.dat"), "one\r\ntwo");
+  EXPECT_EQ(ordner.namen(), Namen{"a.dat"});
+  EXPECT_TRUE(ablage.haenge_an(ordner.pfad("new/b.dat"), "x"));
+  EXPECT_EQ(ordner.lies("new/b.dat"), "x");
+}
+
+TEST_F(SichernTest, AppendedRecordLeavesOtherNamesOfTheFile) {
+  ordner.schreib("real.dat", "old");
+  std::filesystem::create_symlink("real.dat", ordner.pfad("link.dat"));
+  EXPECT_TRUE(ablage.haenge_an("link.dat", " new"));
+  EXPECT_TRUE(std::filesystem::is_symlink(ordner.pfad("link.dat")));
+  EXPECT_EQ(ordner.lies("real.dat"), "old new");
+}
+
+TEST_F(SichernTest, RecordThatDoesNotFitLeavesNothingOfItself) {
+  ordner.schreib("a.dat", std::string(900, 'o'));
+  EXPECT_TRUE(mit_enger_platte(1000, [this] {
+    return !ablage.haenge_an("a.dat", std::string(200, 'x')) &&
+           ablage.letzter_fehler().find("beyond the size") != std::string::npos &&
+           ablage.haenge_an("a.dat", std::string(100, 'y')) && ablage.letzter_fehler().empty();
+  }));
+  EXPECT_EQ(ordner.lies("a.dat"), std::string(900, 'o') + std::string(100, 'y'));
+}
+
+TEST_F(SichernTest, AppendToAFullDeviceOrAFolderIsTold) {
+  EXPECT_FALSE(ablage.haenge_an("/dev/full", "x"));
+  expect_fehler("disk is full");
+  std::filesystem::create_directory(ordner.pfad("a.dat"));
+  EXPECT_FALSE(ablage.haenge_an("a.dat", "x"));
+  expect_fehler("folder");
+}
+
+TEST_F(SichernTest, AppendedRecordIsReadByACopyAtOnce) {
+  Dateikopie<std::string> kopie;
+  const auto text = [](std::optional<std::string>&& inhalt) { return inhalt.value_or(""); };
+  const Schrittfolge ein_schritt(ablage);
+  EXPECT_EQ(kopie.hol(ablage, "a.dat", text), "");
+  ablage.haenge_an("a.dat", "one");
+  EXPECT_EQ(kopie.hol(ablage, "a.dat", text), "one");
+  ablage.haenge_an("a.dat", "two");
+  EXPECT_EQ(kopie.hol(ablage, "a.dat", text), "onetwo");
+}

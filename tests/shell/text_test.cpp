@@ -74,6 +74,13 @@ TEST(AlsUtf8, OnlyStrictUtf8Counts) {
   EXPECT_EQ(als_utf8("aaaaaaaaaaaaaaa\xE2"), "aaaaaaaaaaaaaaaâ");
 }
 
+TEST(AlsUtf8, CharacterCutOffAtTheEndLeavesTheRestAsItIs) {
+  EXPECT_EQ(als_utf8("K\xC3\xBChl \xC3"), "Kühl Ã");
+  EXPECT_EQ(als_utf8("K\xC3\xBChl \xE2\x82"), "Kühl â‚");
+  EXPECT_EQ(als_utf8(std::string("K\xC3\xBChl \xC3\0\0", 9)), std::string("Kühl Ã\0\0", 10));
+  EXPECT_EQ(als_utf8("K\xC3\xBChl \xC3 "), "KÃ¼hl Ã ");  // in the middle it decides
+}
+
 TEST(AlsUtf8, EveryByteBecomesText) {
   std::string alle;
   for (int i = 0; i < 256; ++i) alle += static_cast<char>(i);
