@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,24 +20,34 @@ class Messdatei {
 
   /// The working copy; empty for a job that keeps none.
   std::string Arbeitskopie = "FM_diag.dat";
+  /// Whether an appended row must be on the disk before the run goes on.
+  Haltbarkeit Anhaengen = Haltbarkeit::sicher;
 
   /// Writes the table and its settings; with `Zeilen_unbekannt` rows the heading only. False if the
-  /// file could not be put in place (see `Ablage::letzter_fehler`).
+  /// file could not be put in place (see `Ablage::letzter_fehler`) or the progress asked to stop;
+  /// an old file then stays as it was.
   bool SaveDiaG(std::string_view path, Fortschritt* fortschritt = nullptr);
+  /// Saves under a name that the user chose: ".fmd" is added where the name doesn't end so, and the
+  /// user is asked before a file is overwritten. False if nothing was saved.
+  bool Pr_Speich_als(std::string_view path, Fortschritt* fortschritt = nullptr);
+  /// The file that `Pr_Speich_als` means by a name.
+  static std::string mit_Endung(std::string_view path);
 
   /// What a load found.
   struct Ladung {
     bool gefragt = false;      ///< asked whether so many rows are to be read
-    bool abgelehnt = false;    ///< ... and the answer was no: the table is empty
+    bool abgelehnt = false;    ///< the answer was no, or the progress asked to stop: no rows
     bool abgebrochen = false;  ///< the file is of a run that did not end
     int verworfen = 0;         ///< rows left out for want of pressures
     int ersetzt = 0;           ///< bad rows that repeat the row before
   };
-  /// Replaces the table and its settings. A missing file leaves a table without rows.
+  /// Replaces the table and its settings. A missing file reads as empty: no rows, texts and
+  /// settings empty or at their defaults. A row that was cut off is left out. Where the working
+  /// copy's rows are not wanted, the file is kept beside.
   Ladung LoadDiaG(std::string_view path, Fortschritt* fortschritt = nullptr);
 
   /// Begins the working copy with the heading of a run. One that holds rows is first kept beside
-  /// as "FM_diag <date> <time>.fmd". False if it could not be written.
+  /// as "FM_diag <date> <time>.fmd". False if it could not be written: the next append tries again.
   bool Lauf_beginnen();
   /// Appends row 3 to the working copy, whole and on the disk when this returns. A row that could
   /// not be written is kept and goes before the next one; false as long as some wait.
@@ -45,19 +56,23 @@ class Messdatei {
   bool Arbeitskopie_schreiben();
 
  private:
+  Ladung abgelehnt(std::string_view path, Ladung ladung);
+  bool ist_Arbeitskopie(std::string_view path) const;
+  bool beiseite_legen();
+  bool Kopf_ablegen();
+  bool auf_ganze_Zeilen();
+  bool Wartende_ablegen();
+
   Messung& messung_;
   Ablage& ablage_;
   const Captions& captions_;
   Dialog& dialog_;
   Uhr& uhr_;
-  std::string wartend_;  // rows that the disk did not take yet
-};
-
-/// The column widths of the table, "Diagopt.dat".
-enum class Spaltenlage {
-  Standard,  ///< below 50 bytes: the standard layout applies
-  gelesen,   ///< above 500 bytes: the widths were read
-  belassen,  ///< between them nothing happens
+  std::string wartend_;            // rows that the disk did not take yet
+  bool kopf_fehlt_ = false;        // a run has begun whose heading the disk did not take yet
+  bool zu_retten_ = false;         // the working copy holds unwanted rows, not kept beside so far
+  std::int64_t geschrieben_ = -1;  // the working copy's size as this job left it, in bytes
+  Dateistand beiseite_;            // the working copy's state that has been kept beside
 };
 
 }  // namespace polarkreis
