@@ -1,5 +1,7 @@
 #include "diagnostics/import.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "diagnostics/einheiten_funktion.h"
@@ -21,7 +23,8 @@ bool Messimport::lies(std::string_view path, std::string& text, std::string& gru
     grund = "The file " + ablage_.pfad(path) + warum;
     return false;
   };
-  if (!ablage_.stand(path).da) return nicht(" does not exist.");
+  std::error_code fehler;
+  if (!std::filesystem::exists(ablage_.pfad(path), fehler)) return nicht(" does not exist.");
   if (ablage_.Dateigroesse(path) > Hoechstgroesse)
     return nicht(" is larger than 256 MB: please split it.");
   auto inhalt = ablage_.lies_ganz(path);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -25,6 +26,13 @@ int Teile_von(int zeilen) {
 bool ist_Messbox(std::string_view text) {
   if (text.size() <= Blocklaenge) return false;
   return text.substr(Blocklaenge, Blocklaenge).find_first_of("Mm") != std::string_view::npos;
+}
+
+/// What stands behind the clock: the values. A head of 20 characters may end in a mark.
+std::string_view Werte_von(std::string_view nach_Uhr) {
+  const std::size_t tab = std::min(nach_Uhr.find('\t'), nach_Uhr.size());
+  const bool ist_Wert = nach_Uhr.substr(0, tab).find_first_of("0123456789") != nach_Uhr.npos;
+  return ist_Wert ? nach_Uhr : nach_Uhr.substr(tab);
 }
 
 std::string ohne_Uhrzeit(int anzahl) {
@@ -84,7 +92,7 @@ Importergebnis Messimport::Logger_Bloecke(std::string_view text, int erster, int
   const bool ganz = je_Zeile(text, [&](int block, std::string_view zeile) {
     if (block < erster || block > letzter) return;
     if (const auto uhr = Uhrzeit_von(zeile))
-      kanaele.setze(neu.tabelle, neu.beginne_Zeile(uhr->text), zeile.substr(uhr->ende),
+      kanaele.setze(neu.tabelle, neu.beginne_Zeile(uhr->text), Werte_von(zeile.substr(uhr->ende)),
                     Letzte_Position);
     else
       ++weggefallen;
