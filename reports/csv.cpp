@@ -16,13 +16,18 @@ bool ist_blank(char c) {
   return c == ' ' || c == '\t';
 }
 
+bool liest_sich_als_Zahl(std::string text, const Csv_Form& form) {
+  std::replace(text.begin(), text.end(), form.Dezimalzeichen, '.');
+  return std::holds_alternative<double>(als_Tabellenzelle(text));
+}
+
 bool braucht_Anfuehrung(std::string_view text, const Csv_Form& form) {
   if (text.empty()) return false;
   const auto stoert = [&form](char c) {
     return c == form.Trenner || c == '"' || c == '\r' || c == '\n';
   };
   return std::ranges::any_of(text, stoert) || ist_blank(text.front()) || ist_blank(text.back()) ||
-         std::holds_alternative<double>(als_Tabellenzelle(text));
+         liest_sich_als_Zahl(std::string(text), form);
 }
 
 void schreib(std::string& csv, const std::string& text, const Csv_Form& form) {
