@@ -12,6 +12,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(ROOT / "tools"))
 
 from loggersim import air  # noqa: E402
+from loggersim.bath import TEMPERATURE_ERRORS, Bath  # noqa: E402
 from loggersim.channels import Channels  # noqa: E402
 from loggersim.designs import DESIGNS  # noqa: E402
 from loggersim.faults import Faults  # noqa: E402
@@ -188,6 +189,12 @@ class Replies(unittest.TestCase):
             spoilt = sum(faults.reply(b"ec %*", reply, rng) != reply for _ in range(1000))
             self.assertTrue(250 < spoilt < 350, f"{fault}: {spoilt}")
         self.assertEqual(Faults().reply(b"ec %*", reply, random.Random(5)), reply)
+
+    def test_bath_gives_each_sensor_its_own_error(self):
+        texts = Bath(20, random.Random(2)).texts()
+        self.assertEqual(len(texts), 16)
+        for text, error in zip(texts[8:], TEMPERATURE_ERRORS):
+            self.assertAlmostEqual(float(text) - float(texts[8]), error, delta=0.11)
 
     def test_recorded_lines_skip_runs_of_tabs(self):
         self.assertEqual(values_of("01.03.2026 08:00:00\t\t1.5\t \t2\t\r\n"), ["1.5", "2"])

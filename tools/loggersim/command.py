@@ -7,6 +7,7 @@ import random
 import signal
 import sys
 
+from .bath import Bath
 from .channels import Channels
 from .designs import DESIGNS
 from .device import Device
@@ -23,8 +24,8 @@ RECORDED_LINES, RECORDED_INTERVAL = 240, 30.0
 
 EPILOG = """The first line of standard output is the device that the program opens:
 
-    tools/logger_sim --plant R404A --speed 60 --link /tmp/logger &
-    polarkreis-cli logger run --port 1=/tmp/logger --settings "data/logger R404A.json" --out store.fmd
+    tools/logger_sim --plant R404A --speed 60 --link logger.tty &
+    polarkreis-cli logger run --port 1=logger.tty --settings "data/logger R404A.json" --out store.fmd
 
 It runs until it is stopped (Ctrl-C) and tells more in docs/logger-sim.md."""
 
@@ -58,6 +59,8 @@ def parser():
     plant.add_argument("--plant", choices=sorted(DESIGNS), default="R404A", help="refrigerant of the plant (R404A)")
     plant.add_argument("--orbiter", type=int, choices=(0, 1, 2), help="remote units (as the plant has them)")
     plant.add_argument("--adc", metavar="FILE", help="play this recorded measurement instead, one line a sample")
+    plant.add_argument("--bath", type=float, metavar="T",
+                       help="all sensors lie in a bath of T °C and at one pressure, for a calibration")
     plant.add_argument("--speed", type=positive, default=1.0, metavar="N", help="the plant's time runs N times as fast")
     plant.add_argument("--step", type=positive, default=0.0, metavar="S",
                        help="the plant goes on by S seconds with each sample, whatever the clock says")
@@ -95,6 +98,14 @@ def channels_of(options, seed):
     return Channels(plant, orbiter, options.box == "M", random.Random(seed))
 
 
+def source_of(options, seed):
+    if options.adc:
+        return Recording(options.adc)
+    if options.bath is not None:
+        return Bath(options.bath, random.Random(seed))
+    return channels_of(options, seed)
+
+
 def memory_of(options, seed):
     memory = Memory()
     begin = datetime.datetime(2026, 3, 1, 8, 0, 0)
@@ -107,7 +118,7 @@ def memory_of(options, seed):
 
 def device_of(options):
     seed = options.seed if options.seed is not None else random.randrange(2 ** 32)
-    source = Recording(options.adc) if options.adc else channels_of(options, seed)
+    source = source_of(options, seed)
     faults = Faults(options.noise, options.short, options.long, options.echo_only, options.spike,
                     options.late / 1000, options.late_rate, options.dead, options.die_after)
     # A "T" before the clock time tells no class and makes the token read as the number 0.
