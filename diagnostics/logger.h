@@ -122,19 +122,21 @@ class Logger {
   enum class Durchgang { weiter, nochmal, Ende };
   /// While one lives, the line is taken.
   struct Belegung {
-    explicit Belegung(bool& belegt) : belegt_(belegt) { belegt_ = true; }
-    ~Belegung() { belegt_ = false; }
+    explicit Belegung(bool& belegt) : belegt_(belegt), vorher_(belegt) { belegt_ = true; }
+    ~Belegung() { belegt_ = vorher_; }
     Belegung(const Belegung&) = delete;
     Belegung& operator=(const Belegung&) = delete;
 
    private:
     bool& belegt_;
+    const bool vorher_;
   };
 
   // logger_suche.cpp
   void Ports_suchen();
   std::string Port_fragen(int nummer);
   void Logger_gefunden(int nummer, std::string_view antwort);
+  void Nicht_gefunden();
   void Kein_Geraet();
   void Schreibfehler_zeigen();
   void Port_unbekannt();
@@ -165,6 +167,7 @@ class Logger {
   void sichern_melden(bool gesichert);
   void Pause(const std::string& t1);
   void Geraet_verloren(int i);
+  void Kalibrierung_beginnen();
   void Kalibrierung_beenden(bool vollstaendig);
 
   // logger_datei.cpp

@@ -83,7 +83,7 @@ void Logger::Start_Scan(int run_kind) {
   Start_Fehler = 0;
   if (!Scan_beginnen()) return;
   const double geplant = InterVall_Ber(m_.messung.Messintervall_s(), m_.messung.Combo5);
-  Offset_vorher_ = m_.kanaele.Offset_Wert;
+  if (kalibriert) Kalibrierung_beginnen();
   int i = 1;
   for (Durchgang d = Durchgang::weiter; d != Durchgang::Ende && Mess_laeuft == 1;) {
     d = Scan(i, run_kind, geplant);
@@ -117,6 +117,7 @@ Logger::Durchgang Logger::Scan(int i, int run_kind, double geplant) {
   DiaSpread_Redraw = SSTab1 < Diagramm_erstes || SSTab1 > Diagramm_letztes;
   m_.messung.DiaSpread.setze(Messtabelle::Erste, Spalte::Zeit, Uhrzeit_Text(m_.uhr.Ortszeit()));
   COM_Search(COM_Nr, 1, i, run_kind);
+  if (ist_Kalibrierung(run_kind)) m_.empfaenger.Zustand();
   if (Scan_Status == 7) {
     Scan_Status = 0;
     return Durchgang::nochmal;
@@ -192,6 +193,12 @@ void Logger::Geraet_verloren(int i) {
   COM_Nr = 0;
   Port_unbekannt();
   Mess_laeuft = 0;
+}
+
+void Logger::Kalibrierung_beginnen() {
+  Offset_vorher_ = m_.kanaele.Offset_Wert;
+  Kalib_Druck_.clear();
+  Kalib_Differenz.clear();
 }
 
 void Logger::Kalibrierung_beenden(bool vollstaendig) {

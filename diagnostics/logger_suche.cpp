@@ -28,6 +28,7 @@ void Logger::COM_Search(int port, int action, int sample_no, int run_kind) {
 
 void Logger::Ports_suchen() {
   if (Such_laeuft != 0 || m_.quelle.Quelle_ISS == Messquelle::aktiv) return;
+  const Belegung belegung(belegt_);
   COM_Nr = 0;
   Such_laeuft = 1;
   m_.empfaenger.Sanduhr(true);
@@ -35,10 +36,10 @@ void Logger::Ports_suchen() {
     const std::string antwort = Port_fragen(nummer);
     if (!antwort.empty() && antwort != Messbefehl) Logger_gefunden(nummer, antwort);
   }
-  if (COM_Nr == 0) {
-    if (++Such_Versuche > Versuche_max) m_.messung.Off_line_Check = 1;
-    Port_unbekannt();
-  }
+  if (COM_Nr != 0)
+    Such_Versuche = 0;
+  else
+    Nicht_gefunden();
   m_.empfaenger.Sanduhr(false);
   Such_laeuft = 0;
   m_.empfaenger.Zustand();
@@ -66,6 +67,11 @@ void Logger::Logger_gefunden(int nummer, std::string_view antwort) {
   if (m_.kanaele.Box_Typ == vorher) return;
   for (const int einheit : {1, 2})
     Col_Standard(m_.messung, m_.captions, 2, einheit, m_.kanaele.Box_Typ);
+}
+
+void Logger::Nicht_gefunden() {
+  if (++Such_Versuche > Versuche_max) m_.messung.Off_line_Check = 1;
+  Port_unbekannt();
 }
 
 void Logger::Port_unbekannt() {

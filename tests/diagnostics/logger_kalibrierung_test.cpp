@@ -88,6 +88,7 @@ TEST_F(LoggerKalibrierung, Tab1CalibratesPressuresAndStoresNoOffsetForThem) {
   const auto vorher = kanaele.Offset_Wert;
   port.geraete[4] = immer(antwort({{7, "5"}, {8, "5.5"}, {23, "6"}, {24, "5.5"}}));
   logger.Kalib_Tab = 1;
+  logger.Kalib_Differenz[40] = 1;  // of a run before
   logger.Start_Kalib();
   EXPECT_EQ(empfaenger.messwerte, 5);
   EXPECT_EQ(kanaele.Offset_Wert, vorher);

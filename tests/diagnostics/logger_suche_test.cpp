@@ -96,6 +96,9 @@ TEST_F(LoggerSuche, FailuresAbove10SetOffLine) {
   suche();
   EXPECT_EQ(logger.Such_Versuche, 11);
   EXPECT_EQ(messung.Off_line_Check, 1);
+  port.geraete[1] = immer(antwort());
+  suche();
+  EXPECT_EQ(logger.Such_Versuche, 0) << "they are counted in a row";
 }
 
 TEST_F(LoggerSuche, ShowsTheHourglassWhileItGoes) {
@@ -137,5 +140,8 @@ TEST_F(LoggerSuche, PressDuringASearchStartsNoSecondOne) {
   };
   logger.COM_Such();
   EXPECT_EQ(port.befehle().size(), 16U);
+  EXPECT_EQ(dialog.texte.size(), 1U);
+  suche();
+  EXPECT_EQ(port.befehle().size(), 32U);
   EXPECT_EQ(dialog.texte.size(), 1U);
 }
