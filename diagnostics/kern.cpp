@@ -13,7 +13,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr double Atmosphaere = 1.013;        // bar, fixed
 constexpr double Offener_Eingang = -90;      // °C; a sensor below it is none
 constexpr double Kleinster_Strom = 0.1;      // A; at or below it a phase carries nothing
 constexpr double Kleinste_Spannung = 10;     // V

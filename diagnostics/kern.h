@@ -14,6 +14,9 @@
 
 namespace polarkreis {
 
+/// What makes a gauge pressure absolute, in bar: fixed, whatever the weather.
+inline constexpr double Atmosphaere = 1.013;
+
 /// What the kernel reads and works out of a row beside the refrigerant state; each value stands
 /// until a later row sets it anew. Pressures in bar absolute, temperatures in °C, powers in kW.
 struct Kernwerte {

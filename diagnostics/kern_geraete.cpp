@@ -7,7 +7,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr double Atmosphaere = 1.013;  // bar, fixed
 constexpr double Pa_je_bar = 100000;
 constexpr int Fernbediente = 2;  // remote units that the logger has
 constexpr int Position_P1 = 23;  // of the first of them in a reply

@@ -7,7 +7,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr double Luftdruck = 1.013;       // bar
 constexpr double Feuchte_Eintritt = 0.9;  // of the air that enters, not measured
 
 /// Usual humidity of the air that leaves an evaporator at t in °C.
@@ -56,8 +55,8 @@ void Kern::sekundaerseite_Verd() {
   if (!nimm_Fluss(s, fluss, t_ein, t_aus)) return;
   double Q = leer;
   if (seite.art == Medium::Luft) {
-    const auto ein = luft_.Feuchte_Luft(Feuchte_Eintritt, t_ein, Luftdruck);
-    const auto aus = luft_.Feuchte_Luft(Feuchte_Austritt(t_aus), t_aus, Luftdruck);
+    const auto ein = luft_.Feuchte_Luft(Feuchte_Eintritt, t_ein, Atmosphaere);
+    const auto aus = luft_.Feuchte_Luft(Feuchte_Austritt(t_aus), t_aus, Atmosphaere);
     if (ein && aus) Q = fluss * ein->rho * (ein->h - aus->h) / 3600;
   } else if (seite.art != Medium::unbekannt) {
     Q = Q_Fluessigkeit(seite, fluss, t_ein, t_aus);
@@ -73,7 +72,7 @@ void Kern::sekundaerseite_Verfl() {
   if (!nimm_Fluss(s, fluss, t_ein, t_aus)) return;
   double Q = leer;
   if (seite.art == Medium::Luft) {
-    const auto ein = luft_.Feuchte_Luft(Feuchte_Eintritt, t_ein, Luftdruck);
+    const auto ein = luft_.Feuchte_Luft(Feuchte_Eintritt, t_ein, Atmosphaere);
     if (ein) Q = fluss * ein->rho * (t_ein - t_aus) * cp_feucht(ein->x) / 3600;
   } else if (seite.art != Medium::unbekannt) {
     Q = Q_Fluessigkeit(seite, fluss, t_ein, t_aus);

@@ -46,10 +46,8 @@ TEST(KernDruck, NoPressureAtAllIsTheLowerEndOfTheTable) {
     d.laufend({{2, "-1.013"}});
     d.rechne();
     EXPECT_EQ(d.kern.werte().p0, 0);
-    EXPECT_DOUBLE_EQ(d.zahl(3), name == std::string("R134A") ? -65 : d.zahl(3));
-    KMZustand& z = d.km.z;
     d.km.Sat_Suchen(0, 0);  // the first row becomes the upper one
-    EXPECT_NEAR(d.zahl(3), z.Klammer.Oben.T - 273.15, 0.0101) << name;
+    EXPECT_NEAR(d.zahl(3), d.km.z.Klammer.Oben.T - 273.15, 0.0101) << name;
   }
 }
 
