@@ -82,7 +82,7 @@ bool Zeilenlader::lade(int erwartet, Fortschritt* fortschritt) {
   for (int gelesen = 1;; ++gelesen) {
     if (fortschritt != nullptr) {
       const int anzahl = std::max(erwartet, gelesen);
-      if (!fortschritt->schritt(Zeilenstand(gelesen, anzahl), gelesen, anzahl)) return false;
+      if (!fortschritt->schritt(Zaehltext(gelesen, anzahl), gelesen, anzahl)) return false;
     }
     if (!leser_.lies_Zeile(puffer_)) return true;
     begrenze(puffer_);

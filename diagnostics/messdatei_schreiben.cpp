@@ -19,7 +19,7 @@ bool Zeilen_anhaengen(std::string& text, const Messung& messung, Fortschritt* fo
   const int anzahl = letzte - Messtabelle::Erste + 1;
   text.reserve(text.size() + static_cast<std::size_t>(anzahl) * Zeilenbytes);
   for (int n = 1; n <= anzahl; ++n) {
-    if (fortschritt != nullptr && !fortschritt->schritt(Zeilenstand(n, anzahl), n, anzahl))
+    if (fortschritt != nullptr && !fortschritt->schritt(Zaehltext(n, anzahl), n, anzahl))
       return false;
     Messzeile_anhaengen(text, messung.DiaSpread, n + Messtabelle::Erste - 1);
   }

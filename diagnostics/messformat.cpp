@@ -122,7 +122,7 @@ void Messzeile_anhaengen(std::string& text, const Messzeile& zellen) {
   for (std::size_t spalte = 1; spalte < zellen.size(); ++spalte) zeile(text, zellen[spalte]);
 }
 
-std::string Zeilenstand(int n, int anzahl) {
+std::string Zaehltext(int n, int anzahl) {
   return std::to_string(n) + " / " + std::to_string(anzahl);
 }
 

@@ -31,7 +31,7 @@ void Messzeile_anhaengen(std::string& text, const Messtabelle& tabelle, int zeil
 void Messzeile_anhaengen(std::string& text, const Messzeile& zeile);
 
 /// What a job shows at row n of so many: "17 / 8640".
-std::string Zeilenstand(int n, int anzahl);
+std::string Zaehltext(int n, int anzahl);
 
 /// A measurement file's content with a mark behind it, by which the reader knows where it was cut
 /// off. A tail of NUL bytes, which a power failure leaves, is dropped.
