@@ -11,7 +11,9 @@
 #include "climate/klima.h"
 #include "climate/wrg.h"
 #include "cycle/kreis.h"
+#include "diagnostics/kern.h"
 #include "refrigerant/kaeltemittel.h"
+#include "refrigerant/sole.h"
 
 namespace polarkreis::cli {
 
@@ -30,6 +32,10 @@ struct Rechenstand {
   JahresGang jahresgang;
   WRG wrg;
   Luftzustand luft;
+  Solen solen;
+  Messung messung;
+  Kanaele kanaele;
+  Kern kern;
   bool wrg_geladen = false;   ///< the heat-recovery items have been read
   bool neu_beginnen = false;  ///< asks for a fresh state
 };
@@ -81,6 +87,8 @@ std::span<const Operation> Stoffoperationen();
 std::span<const Operation> Kreisoperationen();
 std::span<const Operation> Klimaoperationen();
 std::span<const Operation> Heizoperationen();
+std::span<const Operation> Soleoperationen();
+std::span<const Operation> Messoperationen();
 std::span<const Operation> Standoperationen();
 
 /// A column of a refrigerant table by its name.

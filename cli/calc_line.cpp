@@ -15,8 +15,9 @@ Json fehlerzeile(const std::string& text) {
 }
 
 const Operation* finde(std::string_view name) {
-  for (const auto& operationen : {Grundoperationen(), Stoffoperationen(), Kreisoperationen(),
-                                  Klimaoperationen(), Heizoperationen(), Standoperationen()}) {
+  for (const auto& operationen :
+       {Grundoperationen(), Stoffoperationen(), Kreisoperationen(), Klimaoperationen(),
+        Heizoperationen(), Soleoperationen(), Messoperationen(), Standoperationen()}) {
     const auto op = std::ranges::find(operationen, name, &Operation::name);
     if (op != operationen.end()) return &*op;
   }
@@ -59,7 +60,10 @@ Rechenstand::Rechenstand(Ablage& dateien, Captions& texte)
       klima(dateien, texte),
       jahresgang(dateien, texte, klima),
       wrg(dateien, texte),
-      luft(dateien) {}
+      luft(dateien),
+      solen(dateien, texte),
+      kanaele(dateien),
+      kern(messung, kanaele, kreis, solen, luft, texte) {}
 
 bool ist_einfach(const Json& wert) {
   return wert.is_number() || wert.is_string() || wert.is_null();

@@ -98,9 +98,27 @@ void Konsolendialog::zeige(std::string_view text, std::string_view /*titel*/, Sy
   melde(text);
 }
 
+namespace {
+
+// Only a line that begins with "y" (or "j") is a yes.
+bool am_terminal_gefragt(std::string_view text) {
+  std::fprintf(stderr, "%s [y/N] ", sichtbar(einzeilig(text)).c_str());
+  std::fflush(stderr);
+  bool ja = false;
+  for (int zeichen = std::getchar(), ort = 0; zeichen != EOF && zeichen != '\n';
+       zeichen = std::getchar(), ++ort)
+    if (ort == 0) ja = zeichen == 'y' || zeichen == 'Y' || zeichen == 'j' || zeichen == 'J';
+  return ja;
+}
+
+}  // namespace
+
 bool Konsolendialog::frage(std::string_view text, std::string_view /*titel*/) {
-  melde(std::string(text) + " (answered: yes)");
-  return true;
+  const bool terminal = ::isatty(STDIN_FILENO) == 1 && ::isatty(STDERR_FILENO) == 1;
+  if (antwort == Antwortweise::fragen && terminal) return am_terminal_gefragt(text);
+  const bool ja = antwort == Antwortweise::ja;
+  melde(std::string(text) + (ja ? " (answered: yes)" : " (answered: no)"));
+  return ja;
 }
 
 Terminalfortschritt::Terminalfortschritt() : terminal_(::isatty(STDERR_FILENO) == 1) {}

@@ -9,10 +9,15 @@
 
 namespace polarkreis::cli {
 
-/// Message boxes go to standard error. Nobody sits before a command line, so every question is
-/// answered with yes, and told.
+/// How a command line answers a question: as told beforehand, or by asking who sits before the
+/// terminal (no where there is none).
+enum class Antwortweise { ja, nein, fragen };
+
+/// Message boxes go to standard error. A question that isn't asked is told with its answer; most
+/// commands answer with yes, since nobody sits before a command line.
 class Konsolendialog : public Dialog {
  public:
+  Antwortweise antwort = Antwortweise::ja;
   void zeige(std::string_view text, std::string_view titel, Symbol symbol) override;
   bool frage(std::string_view text, std::string_view titel) override;
 };

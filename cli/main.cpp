@@ -38,6 +38,11 @@ void befehle_anmelden(CLI::App& app, Sitzung& sitzung) {
   refrigerants_anmelden(app, sitzung);
   saturation_anmelden(app, sitzung);
   cycle_anmelden(app, sitzung);
+  diagnose_anmelden(app, sitzung);
+  import_anmelden(app, sitzung);
+  logger_anmelden(app, sitzung);
+  measurement_anmelden(app, sitzung);
+  brine_anmelden(app, sitzung);
   calc_anmelden(app, sitzung);
 }
 
@@ -56,7 +61,8 @@ void ausgabe_abschliessen(Sitzung& sitzung) {
 int ausfuehren(int argc, char** argv) {
   Sitzung sitzung(argc > 0 ? argv[0] : "");
   CLI::App app(
-      "Simulates refrigeration plants: annual energy, state points, climate and refrigerants.",
+      "Simulates refrigeration plants and judges real ones: annual energy, state points, climate, "
+      "refrigerants, measurements.",
       "polarkreis-cli");
   app.fallthrough();
   app.require_subcommand(1);

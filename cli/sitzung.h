@@ -64,6 +64,11 @@ void climate_anmelden(CLI::App& app, Sitzung& sitzung);
 void refrigerants_anmelden(CLI::App& app, Sitzung& sitzung);
 void saturation_anmelden(CLI::App& app, Sitzung& sitzung);
 void cycle_anmelden(CLI::App& app, Sitzung& sitzung);
+void diagnose_anmelden(CLI::App& app, Sitzung& sitzung);
+void import_anmelden(CLI::App& app, Sitzung& sitzung);
+void logger_anmelden(CLI::App& app, Sitzung& sitzung);
+void measurement_anmelden(CLI::App& app, Sitzung& sitzung);
+void brine_anmelden(CLI::App& app, Sitzung& sitzung);
 void calc_anmelden(CLI::App& app, Sitzung& sitzung);
 
 }  // namespace polarkreis::cli
