@@ -16,17 +16,17 @@
 
 #include "shell/deskriptor.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#define POLARKREIS_UNTER_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define POLARKREIS_UNTER_SANITIZER 1
-#endif
-#endif
-
 namespace polarkreis {
 
 namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool Unter_Sanitizer = true;
+#elif defined(__has_feature)
+constexpr bool Unter_Sanitizer = __has_feature(address_sanitizer);
+#else
+constexpr bool Unter_Sanitizer = false;
+#endif
 
 void begrenze(int was, rlim_t grenze) {
   const rlimit beide{grenze, grenze};
@@ -43,9 +43,7 @@ std::size_t Adressraum() {
 void begrenze(const Arbeitsgrenzen& grenzen) {
   begrenze(RLIMIT_CORE, 0);
   begrenze(RLIMIT_CPU, static_cast<rlim_t>(grenzen.sekunden));
-#if !defined(POLARKREIS_UNTER_SANITIZER)
-  begrenze(RLIMIT_AS, Adressraum() + grenzen.speicher);
-#endif
+  if (!Unter_Sanitizer) begrenze(RLIMIT_AS, Adressraum() + grenzen.speicher);
 }
 
 bool sende(int ziel, std::string_view bytes) {
