@@ -39,7 +39,7 @@ DESIGNS = {
     "R134A": Design("R134A", 260, 0.70, Side(24, 12, WATER), Side(30, 27, WATER), 9, 12, 5, 3, 4, 2.4, 1,
                     (("start", 6), ("run", 75), ("defrost", 9), ("start", 6), ("run", 45), ("stop", 9))),
     # Process cooling with ethylene glycol (34 %), condenser on river water.
-    "R717": Design("R717", 320, 0.72, Side(32, -3, 1058 * 3.63), Side(36, 22, WATER), 8, 11, 3, 4, 2, 3.0, 2,
+    "R717": Design("R717", 320, 0.72, Side(32, -3, 1058 * 3.63), Side(36, 22, WATER), 9, 11, 4.5, 3, 2, 3.0, 2,
                    (("start", 10), ("run", 110), ("defrost", 20), ("start", 10), ("run", 60), ("stop", 15))),
     # A transcritical plant with gas cooler on the roof, cabinets on propylene glycol (38 %).
     "R744": Design("R744", 22, 0.66, Side(13, 0, 1045 * 3.66), Side(9500, 33), 9, 4, 7, 6, 0, 1.8, 1,
