@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "measurement.h"
 #include "plant.h"
 
 extern char** environ;
@@ -49,6 +50,9 @@ class Mediane : public benchmark::BenchmarkReporter {
   }
   std::map<std::string, double> ms;
 };
+
+constexpr int kZeilen = 8640;
+constexpr int kProben = 50;
 
 void messen(const std::string& name, std::function<void()> arbeit, int wiederholungen) {
   benchmark::RegisterBenchmark(name.c_str(),
@@ -112,6 +116,18 @@ bool speicher_flach(Anlagenlauf& lauf) {
   return zuwachs < 256;
 }
 
+constexpr int kTagesproben = 17280;  // a day at 5 s
+
+// Only the table's rows stay from a day's run.
+void speicher_eines_Tages() {
+  Messlauf lauf(false);
+  lauf.messen(100);
+  const long vorher = speicher_kB();
+  lauf.messen(kTagesproben);
+  const double je_Zeile = static_cast<double>(speicher_kB() - vorher) / lauf.zeilen();
+  zeile("memory of a day's run at 5 s, a row", text(je_Zeile, "kB"), "<= 6.000 kB", je_Zeile <= 6);
+}
+
 bool tabelle(std::map<std::string, double>& ms) {
   bool alles = true;
   const auto pruefe = [&](const std::string& was, double wert, const char* einheit, double ziel) {
@@ -126,6 +142,10 @@ bool tabelle(std::map<std::string, double>& ms) {
           "ratio " + text(verhaeltnis, ">= 50"), verhaeltnis >= 50);
     alles = alles && verhaeltnis >= 50;
   }
+  pruefe("measurement: load and evaluate 8640 rows", ms["auswerten"], "ms", 500);
+  pruefe("live sample (parse, kernel, append) without the sync", ms["proben"] / kProben, "ms", 2);
+  zeile("  the same with the row synced to the disk", text(ms["proben auf Platte"] / kProben, "ms"),
+        "shown only", true);
   pruefe("KreisPunkt, pure fluid (R134A)", ms["KreisPunkt"] * 1000, "us", 2);
   pruefe("start of the command line (saturation)", ms["start"], "ms", 20);
   return alles;
@@ -174,6 +194,15 @@ int laufen(int argc, char** argv) {
         benchmark::DoNotOptimize(r134a.km.z.h_v0);
       },
       11);
+  Messlauf auswertung(false), proben(false), gesichert(true);
+  auswertung.vorbereiten(kZeilen);
+  gleich = auswertung.laden_und_rechnen() == kZeilen && gleich;
+  messen(
+      "auswerten", [&] { benchmark::DoNotOptimize(auswertung.laden_und_rechnen()); }, 5);
+  messen(
+      "proben", [&] { proben.messen(kProben); }, 11);
+  messen(
+      "proben auf Platte", [&] { gesichert.messen(kProben); }, 3);
   messen(
       "start", [&daten] { kommandozeile_starten(daten.ordner()); }, 11);
 
@@ -183,6 +212,7 @@ int laufen(int argc, char** argv) {
   bool gut = tabelle(mediane.ms);
   zeile("results with and without parsed copies", gleich ? "equal" : "different", "equal", gleich);
   gut = speicher_flach(*laeufe.back()) && gut && gleich;
+  speicher_eines_Tages();
   benchmark::Shutdown();
   return gut ? 0 : 1;
 }

@@ -13,17 +13,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// In memory where the system offers it: thousands of runs a second would else measure how the
-/// disk's file system gives out new files, which a user with one run never meets.
-fs::path ablageort() {
+fs::path ablageort(Ort ort) {
   const fs::path speicher = "/dev/shm";
-  return access(speicher.c_str(), W_OK) == 0 ? speicher : fs::temp_directory_path();
+  const bool im_Speicher = ort == Ort::Speicher && access(speicher.c_str(), W_OK) == 0;
+  return im_Speicher ? speicher : fs::temp_directory_path();
 }
 
 }  // namespace
 
-Datenkopie::Datenkopie() {
-  std::string muster = (ablageort() / "polarkreis-bench-XXXXXX").string();
+Datenkopie::Datenkopie(Ort ort) {
+  std::string muster = (ablageort(ort) / "polarkreis-bench-XXXXXX").string();
   if (mkdtemp(muster.data()) == nullptr) throw std::runtime_error("no temporary folder");
   pfad_ = muster;
   fs::copy(POLARKREIS_DATA, pfad_, fs::copy_options::recursive);
