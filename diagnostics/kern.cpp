@@ -227,9 +227,11 @@ void Kern::fuehlerwahl() {
   const int t_Exp = Spalte::von(Spalte::E_t_Exp, 1);
   const int t_liq = Spalte::von(Spalte::E_t_liq, 1);
   const bool fern = code() == F_Verdichter || code() == F_Fernfuehler;
-  lies(w_.t_Exp, fern && gemessen(t_Exp) ? t_Exp : Spalte::t_Exp);
+  lies(w_.t_Exp, Spalte::t_Exp);
+  if (fern && gemessen(t_Exp)) lies(w_.t_Exp, t_Exp);
   lies(w_.t_SL, Spalte::t_SL);
-  lies(w_.t_liq, code() == F_Verdichter && gemessen(t_liq) ? t_liq : Spalte::t_liq);
+  lies(w_.t_liq, Spalte::t_liq);
+  if (code() == F_Verdichter && gemessen(t_liq)) lies(w_.t_liq, t_liq);
 }
 
 void Kern::ueberhitzung() {

@@ -172,6 +172,16 @@ TEST(KernFuehler, OtherFunctionsAndNoFunctionKeepTheOwn) {
 }
 
 // t0 is -9.92 °C, so a superheat of -0.085 K becomes -0.09 K.
+TEST(KernFuehler, ARemoteNumberBeyondRangeLeavesTheOwnSensor) {
+  KernDesk d;
+  d.einheit(1, VerbCapt::Verdichter);
+  d.laufend({{36, "1e999"}, {31, "1e999"}});
+  d.kern.beginnen();
+  d.kern.Kern_Zeile(3);
+  EXPECT_EQ(d.kern.werte().t_Exp, -4);
+  EXPECT_EQ(d.kern.werte().t_liq, 36);
+}
+
 TEST(KernAbstaende, AreCutDownwardToHundredths) {
   KernDesk d;
   d.laufend({{4, "-10.005"}, {9, "36.005"}});
