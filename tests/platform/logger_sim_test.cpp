@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "platform/seriell.h"
-#include "stellvertreter.h"
+#include "support/stellvertreter.h"
 #include "support/temp_folder.h"
 
 using namespace polarkreis;
