@@ -55,11 +55,18 @@ bool sende(int ziel, std::string_view bytes) {
   return true;
 }
 
+/// Nobody is to read what a failing library has to say.
+void verstumme() {
+  const int nichts = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+  if (nichts >= 0) ::dup2(nichts, STDERR_FILENO);
+}
+
 /// The child's whole life. It ends without the program's own clean-up, which is the parent's.
 [[noreturn]] void kindprozess(const std::function<std::string()>& arbeit,
                               const Arbeitsgrenzen& grenzen, int ziel) {
   for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGPIPE, SIGTERM, SIGINT})
     ::signal(signal, SIG_DFL);
+  verstumme();
   begrenze(grenzen);
   bool gut = false;
   try {

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Installs the Debian packages named in the arguments' lists that are missing. Sourced lists: build, test, bench.
+# Installs the Debian packages named in the arguments' lists that are missing. Sourced lists: build, test, bench, fuzz.
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libserialport-dev libfreexl-dev libzip-dev
   libpugixml-dev libxlsxwriter-dev)
 test=(libgtest-dev clang-format python3 git libreoffice-calc-nogui)
 bench=(libbenchmark-dev)
+fuzz=(clang libclang-rt-14-dev python3)
 
 wanted=()
 for list in "$@"; do

@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+"""Writes what the fuzzers begin with: small pieces of the sample files, one folder a target.
+
+Usage: tools/fuzz_seeds.py FOLDER
+"""
+import pathlib
+import sys
+import zipfile
+
+DATA = pathlib.Path(__file__).parent.parent / "data"
+
+
+def lines_of(name, number):
+    return b"".join((DATA / name).read_bytes().splitlines(keepends=True)[:number])
+
+
+def measurement(rows, count, language="ENG"):
+    """A measurement file: 100 lines of heading, then 169 cells a row."""
+    heading = ["Plant", "", f"{count}&$§{language}", "02.03.2026", "R404A", "0", "3§$%0§$%500§$%0§$%-150§$%0",
+               "Single-stage", "Swept volume", " 1 h", "", "5s", ""]
+    heading += [""] * (100 - len(heading))
+    for i, (low, high) in enumerate(rows):
+        cells = [f"06:00:{i:02}", low, "-20", "-14.4", "-9.4", high, "30", "62.2", "29.6", "6"]
+        heading += cells + [""] * (169 - len(cells))
+    return "".join(f'"{line}"\r\n' for line in heading).encode("utf-8")
+
+
+def xml_parts(path):
+    """The parts of a zipped worksheet, with only its first rows."""
+    with zipfile.ZipFile(path) as archive:
+        sheet, texts, styles = (archive.read(f"xl/{part}.xml") for part in
+                                ("worksheets/sheet1", "sharedStrings", "styles"))
+    begin = sheet.index(b"<sheetData>")
+    rows = sheet[begin:].split(b"<row ")
+    return b"\0".join([b"<worksheet>" + b"<row ".join(rows[:30]) + b"</sheetData></worksheet>", texts, styles])
+
+
+def seeds():
+    yield "fmd", "run", measurement([("1.2", "14.5"), ("1.1", "15.7"), ("0.4", "3"), ("0", "0")], 4)
+    yield "fmd", "broken off", measurement([("1.2", "14.5"), ("1.1", "95")], 65459)
+    yield "fmd", "long", measurement([("1.2", "14.5")], 1001, "GER")
+    yield "adc", "base", lines_of("R404A cold store.adc", 30)
+    yield "adc", "box", lines_of("R134A monitoring box.adc", 15)
+    yield "adc", "ends", b"02.03.2026 06:00:00\t1\r\r\n\n" * 3 + b"6:00:00\t" * 30
+    yield "steuertext", "control", lines_of("KKP_FMD_TEMP_2.txt", 8)
+    yield "steuertext", "empty", lines_of("KKP_FMD_TEMP_2.txt", 2) + b'""\r\n' + lines_of("KKP_FMD_TEMP_2.txt", 1)
+    for name in ("Testo 735 condenser", "Testo 735 evaporator", "ClimaCheck cold store"):
+        yield "arbeitsmappe", f"{name}.parts", xml_parts(DATA / f"{name}.xlsx")
+    for name in ("Testo 735 condenser.xls", "Testo 735 condenser.xlsx"):
+        yield "arbeitsmappe", name, (DATA / name).read_bytes()
+    values = [" ".join(lines_of("R134A monitoring box.adc", 1).decode().split("\t")[1:n]).strip() for n in (17, 33)]
+    yield "antwort", "base", f"{values[0]} T02.03.2026 06:00:00 ok\r\n".encode()
+    yield "antwort", "box", f"{values[1]} M02.03.2026 06:00:00 ok\r\n".encode()
+    yield "antwort", "echo", b"ec %*\r" + f"{values[0]}  -1 1e999 -- ok".encode()
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1])
+    for target, name, content in seeds():
+        (folder / target).mkdir(parents=True, exist_ok=True)
+        (folder / target / name.replace(" ", "_")).write_bytes(content)
+
+
+if __name__ == "__main__":
+    main()
