@@ -1,5 +1,7 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,7 +38,11 @@ void ports_zuweisen(const std::vector<std::string>& ports, Seriellschnittstelle&
         nummer > kPorts || gleich + 1 == text.size())
       throw Abbruch("--port " + text + " must be a number from 1 to " + std::to_string(kPorts) +
                     " and a device, as 1=/dev/ttyUSB0.");
-    port.zuweisen(nummer, text.substr(gleich + 1));
+    const std::string geraet = text.substr(gleich + 1);
+    std::error_code unbekannt;
+    if (!std::filesystem::is_character_file(geraet, unbekannt))
+      melde("--port " + text + ": there is no such device.");
+    port.zuweisen(nummer, geraet);
   }
 }
 
@@ -136,12 +142,26 @@ void dateien(Sitzung& sitzung, const Wuensche& w) {
   if (liste.empty()) melde("The logger names no files.");
 }
 
+// The logger sends whatever has the transfer name, and doesn't tell if a name isn't there.
+void namen_pruefen(Logger& logger, const std::string& name) {
+  constexpr std::string_view transfer = "aaaa.adc";
+  logger.COM_Port_FMD_Import();
+  const std::vector<std::string>& liste = logger.List1;
+  const auto hat = [&](std::string_view n) { return std::ranges::find(liste, n) != liste.end(); };
+  if (liste.empty() || hat(name)) return;
+  if (!hat(transfer))
+    throw Abbruch("The logger has no file \"" + name + "\"; \"logger files\" lists its files.");
+  melde("The logger does not name \"" + name +
+        "\": what it calls \"aaaa.adc\" is taken, the file of its last transfer.");
+}
+
 void herunterladen(Sitzung& sitzung, const Wuensche& w) {
   Messempfaenger stumm;
   Messplatz platz(sitzung, w, stumm);
   vorbereiten(platz, w);
   if (!geraet_da(sitzung, platz)) return;
   Logger& logger = platz.diagnose.logger;
+  namen_pruefen(logger, w.name);
   logger.Text2 = w.name;
   const int zeilen = logger.COM_import();
   if (zeilen == 0) throw Abbruch("The logger sent no rows of \"" + w.name + "\".");

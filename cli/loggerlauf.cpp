@@ -14,13 +14,17 @@ namespace polarkreis::cli {
 
 namespace {
 
-constexpr std::array<int, 3> kSignale{SIGINT, SIGTERM, SIGHUP};
+constexpr std::array<int, 2> kSignale{SIGINT, SIGTERM};
 constexpr const char* kZeile_loeschen = "\r\x1b[K";
 
 sigset_t endesignale() {
   sigset_t menge{};
   sigemptyset(&menge);
   for (int signal : kSignale) sigaddset(&menge, signal);
+  // A run that was started to outlive its terminal does so: a blocked signal would reach it.
+  struct sigaction stand {};
+  if (::sigaction(SIGHUP, nullptr, &stand) == 0 && stand.sa_handler != SIG_IGN)
+    sigaddset(&menge, SIGHUP);
   return menge;
 }
 

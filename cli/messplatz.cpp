@@ -1,10 +1,13 @@
 #include "messplatz.h"
 
+#include <algorithm>
 #include <filesystem>
 
+#include "diagnostics/messformat.h"
 #include "messung_json.h"
 #include "platform/dateiwache.h"
 #include "projektwahl.h"
+#include "shell/items.h"
 #include "shell/text.h"
 #include "simulation/projladen.h"
 
@@ -18,6 +21,23 @@ Diagnosemittel mittel(Messplatz& platz, Messempfaenger& empfaenger) {
   Programm& p = platz.p;
   return {p.ablage,  p.captions, p.kreis,      p.luft,     platz.dialog,
           platz.uhr, platz.port, platz.mappen, empfaenger, platz.fortschritt};
+}
+
+// The third item of a measurement is its row count, with or without a language behind it.
+bool hat_Zeilenzahl(const std::string& inhalt) {
+  ItemLeser leser(inhalt);
+  leser.lies();
+  leser.lies();
+  const std::string item(leser.lies());
+  const std::string_view zahl =
+      getrimmt(std::string_view(item).substr(0, item.find(Trenner_Sprache)));
+  return !zahl.empty() && std::ranges::all_of(zahl, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// A power failure leaves NUL bytes at the end of a file, never inside it.
+bool ist_binaer(const std::string& inhalt) {
+  const std::size_t ende = inhalt.find_last_not_of('\0');
+  return inhalt.find('\0') < ende && ende != std::string::npos;
 }
 
 }  // namespace
@@ -45,9 +65,16 @@ Messplatz::Messplatz(Sitzung& sitzung, const Messwuensche& wuensche, Messempfaen
 
 Messdatei::Ladung Messplatz::laden(const std::string& name) {
   const std::string pfad = messdatei_pfad(p, name);
+  const std::optional<std::string> inhalt = p.ablage.lies_ganz(pfad);
+  if (!inhalt) throw Abbruch(grund(p.ablage, "The file \"" + name + "\" can't be read."));
   einstellungen_.vor_dem_laden(diagnose.messung);
   const Messdatei::Ladung ladung = diagnose.laden(pfad);
   fortschritt.loeschen();
+  const bool leer = diagnose.messung.Messpunkte() == 0 && !ladung.abgelehnt;
+  if ((leer || ist_binaer(*inhalt)) && !hat_Zeilenzahl(*inhalt))
+    throw Abbruch("The file \"" + name +
+                  "\" is no measurement: its third line holds no row count. Files of other "
+                  "instruments are read with \"import\".");
   einstellen();
   return ladung;
 }
@@ -109,12 +136,17 @@ std::string messdatei_pfad(Programm& p, const std::string& name) {
   const std::string pfad = Projektdatei_Pfad(p.ablage, name);
   const std::string ort = p.ablage.pfad(pfad);
   std::error_code fehler;
+  if (fs::is_directory(name, fehler) || fs::is_directory(ort, fehler))
+    throw Abbruch("\"" + name + "\" is a folder. Give the file in it.");
+  if (!fs::exists(ort, fehler) && fs::is_regular_file(name, fehler))
+    throw Abbruch("The file \"" + name + "\" is empty.");
   if (!fs::exists(ort, fehler))
     throw Abbruch("There is no file \"" + name +
                   "\". A name without a folder is sought in the current folder and in the data "
                   "folder \"" +
                   p.ablage.Datenordner + "\".");
   if (!fs::is_regular_file(ort, fehler)) throw Abbruch("\"" + name + "\" is no file.");
+  if (p.ablage.Dateigroesse(pfad) == 0) throw Abbruch("The file \"" + name + "\" is empty.");
   return pfad;
 }
 
