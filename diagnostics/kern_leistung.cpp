@@ -34,7 +34,8 @@ void Kern::foerderung() {
 void Kern::massenstrom() {
   const double V = messung_.Hub_Volumen;
   const double P2 = zahl(Spalte::von(Spalte::E_P2, 1));
-  setze(w_.p_up, misst_Zwischendruck() ? P2 + Atmosphaere : w_.pc);
+  setze(w_.p_up, w_.pc);
+  if (misst_Zwischendruck()) setze(w_.p_up, P2 + Atmosphaere);
   setze(w_.lambda,
         (1 + ((4.85 - w_.p_up / w_.p0) / 4.85) / 14) * 0.8 * (1 - 1 / (1.2 * (V * 0.8) + 10)));
   setze(w_.V_eff, V * w_.lambda);
