@@ -21,7 +21,7 @@ bool lies(const std::string& pfad, std::string& bytes, std::string& grund) {
   std::error_code fehler;
   const auto groesse = std::filesystem::file_size(pfad, fehler);
   if (!fehler && groesse > Hoechstgroesse) {
-    grund = "it is larger than 64 MB.";
+    grund = "it is larger than 64 MB: please split it.";
     return false;
   }
   const int nummer = fehler ? fehler.value() : platte::lies(pfad, bytes);

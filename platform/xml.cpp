@@ -28,7 +28,7 @@ std::size_t Baumgroesse(std::string_view text) {
 bool Dokument::lies(std::string text, std::string& grund) {
   text_ = std::move(text);
   if (Baumgroesse(text_) > Speichergrenze) {
-    grund = "its worksheet is too large.";
+    grund = "its worksheet is too large: please split it.";
     return false;
   }
   const pugi::xml_parse_result ergebnis =

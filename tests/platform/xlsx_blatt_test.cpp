@@ -185,7 +185,7 @@ TEST(XlsxBlatt, EntitiesThatGrowAreNotExpanded) {
 TEST(XlsxBlatt, TreeThatWouldTakeTooMuchMemoryIsRefused) {
   std::string viele(40'000'000, ' ');
   for (std::size_t i = 0; i + 4 <= viele.size(); i += 4) viele.replace(i, 4, "<a/>");
-  EXPECT_EQ(grund_von({blatt(viele), "", ""}), "its worksheet is too large.");
+  EXPECT_EQ(grund_von({blatt(viele), "", ""}), "its worksheet is too large: please split it.");
 }
 
 TEST(XlsxBlatt, LongTextSharedByManyCellsIsRefused) {
