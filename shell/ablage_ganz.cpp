@@ -1,4 +1,5 @@
 #include <cerrno>
+#include <utility>
 
 #include "shell/ablage.h"
 #include "shell/platte.h"
@@ -50,9 +51,11 @@ bool Ablage::Datei_Loeschen(std::string_view name) {
   return false;
 }
 
+// A refusal that lasts is told once: a run tries to save its rows anew with every sample.
 bool Ablage::misslungen(const std::string& wo, const std::string& warum) {
-  letzter_fehler_ = "Can not write \"" + wo + "\": " + warum;
-  meldungen_.melde("write", wo, "not written: " + warum);
+  std::string fehler = "Can not write \"" + wo + "\": " + warum;
+  if (fehler != letzter_fehler_) meldungen_.melde("write", wo, "not written: " + warum);
+  letzter_fehler_ = std::move(fehler);
   return false;
 }
 

@@ -291,6 +291,21 @@ TEST_F(SichernTest, AppendToAFullDeviceOrAFolderIsTold) {
   expect_fehler("folder");
 }
 
+TEST_F(SichernTest, RefusalThatLastsIsLoggedOnce) {
+  std::filesystem::create_directory(ordner.pfad("a.dat"));
+  for (int versuch = 0; versuch < 5; ++versuch) {
+    EXPECT_FALSE(ablage.haenge_an("a.dat", "x"));
+    expect_fehler("folder");
+  }
+  EXPECT_EQ(meldungen.zeilen().size(), 1U);
+  EXPECT_FALSE(ablage.schreib_ganz("/dev/full", "x"));  // another one
+  EXPECT_FALSE(ablage.haenge_an("a.dat", "x"));
+  EXPECT_EQ(meldungen.zeilen().size(), 3U);
+  EXPECT_TRUE(ablage.schreib_ganz("b.dat", "x"));
+  EXPECT_FALSE(ablage.haenge_an("a.dat", "x"));
+  EXPECT_EQ(meldungen.zeilen().size(), 4U);
+}
+
 TEST_F(SichernTest, AppendedRecordIsReadByACopyAtOnce) {
   Dateikopie<std::string> kopie;
   const auto text = [](std::optional<std::string>&& inhalt) { return inhalt.value_or(""); };
