@@ -44,17 +44,30 @@ bool Messdatei::ist_Arbeitskopie(std::string_view path) const {
 }
 
 /// Keeps the working copy under a name of its own where it holds rows; once for each state of it.
+/// What a run could not keep or read with one sample it meets again with the next: the name stays,
+/// and what can't be read is left alone until the user does something.
 bool Messdatei::beiseite_legen() {
   const Dateistand stand = ablage_.stand(Arbeitskopie);
   if (!stand.da || stand.groesse == 0 || stand == beiseite_) return true;
+  if (stand == unlesbar_) return false;
   const std::optional<std::string> inhalt = ablage_.lies_ganz(Arbeitskopie);
-  if (!inhalt) return false;
-  if (hat_Zeilen(*inhalt)) {
-    const std::string name = freier_Name(ablage_, Arbeitskopie, uhr_.Ortszeit());
-    if (!ablage_.schreib_ganz(name, *inhalt)) return false;
-    ablage_.meldungen().melde("measurement", Arbeitskopie, "its rows are kept as \"" + name + "\"");
+  if (!inhalt) {
+    unlesbar_ = stand;
+    ablage_.haenge_an(Arbeitskopie, "");  // mostly refused, too, and that tells why
+    return false;
   }
+  if (hat_Zeilen(*inhalt) && !beiseite_schreiben(*inhalt)) return false;
   beiseite_ = stand;
+  return true;
+}
+
+bool Messdatei::beiseite_schreiben(const std::string& inhalt) {
+  if (beiseite_name_.empty() || ablage_.stand(beiseite_name_).da)
+    beiseite_name_ = freier_Name(ablage_, Arbeitskopie, uhr_.Ortszeit());
+  if (!ablage_.schreib_ganz(beiseite_name_, inhalt)) return false;
+  ablage_.meldungen().melde("measurement", Arbeitskopie,
+                            "its rows are kept as \"" + beiseite_name_ + "\"");
+  beiseite_name_.clear();
   return true;
 }
 
@@ -71,6 +84,7 @@ bool Messdatei::Kopf_ablegen() {
 
 bool Messdatei::Lauf_beginnen() {
   if (Arbeitskopie.empty()) return true;
+  unlesbar_ = {};
   // Rows of the run before belong to its file, if the disk takes them now.
   if (!wartend_.empty() && !kopf_fehlt_) Wartende_ablegen();
   kopf_fehlt_ = true;
@@ -99,15 +113,19 @@ bool Messdatei::auf_ganze_Zeilen() {
   if (ganz.empty()) return Kopf_ablegen();
   geschrieben_ = static_cast<std::int64_t>(ganz.size());
   if (ganz == inhalt && ablage_.Dateigroesse(Arbeitskopie) == geschrieben_) return true;
+  if (!ablage_.schreib_ganz(Arbeitskopie, ganz)) {
+    geschrieben_ = -1;
+    return false;
+  }
   ablage_.meldungen().melde("measurement", Arbeitskopie, "cut back to its last whole row");
-  if (ablage_.schreib_ganz(Arbeitskopie, ganz)) return true;
-  geschrieben_ = -1;
-  return false;
+  return true;
 }
 
 bool Messdatei::Arbeitskopie_schreiben() {
   if (Arbeitskopie.empty()) return true;
-  if (zu_retten_ && !beiseite_legen()) return false;
+  unlesbar_ = {};
+  // A run without a heading so far has left the rows of the one before in the file.
+  if ((zu_retten_ || kopf_fehlt_) && !beiseite_legen()) return false;
   if (!SaveDiaG(Arbeitskopie)) return false;
   wartend_.clear();
   kopf_fehlt_ = false;

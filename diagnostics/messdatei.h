@@ -59,6 +59,7 @@ class Messdatei {
   Ladung abgelehnt(std::string_view path, Ladung ladung);
   bool ist_Arbeitskopie(std::string_view path) const;
   bool beiseite_legen();
+  bool beiseite_schreiben(const std::string& inhalt);
   bool Kopf_ablegen();
   bool auf_ganze_Zeilen();
   bool Wartende_ablegen();
@@ -73,6 +74,8 @@ class Messdatei {
   bool zu_retten_ = false;         // the working copy holds unwanted rows, not kept beside so far
   std::int64_t geschrieben_ = -1;  // the working copy's size as this job left it, in bytes
   Dateistand beiseite_;            // the working copy's state that has been kept beside
+  std::string beiseite_name_;      // the name under which it could not be kept so far
+  Dateistand unlesbar_;            // its state that could not be read
 };
 
 }  // namespace polarkreis

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "diagnostics/einheiten_funktion.h"
@@ -143,7 +144,10 @@ void berichte(Meldungen& meldungen, std::string_view path, const Messdatei::Ladu
 
 Messdatei::Ladung Messdatei::LoadDiaG(std::string_view path, Fortschritt* fortschritt) {
   Ladung ladung;
-  std::string inhalt = ablage_.lies_ganz(path).value_or("");
+  const std::optional<std::string> gelesen = ablage_.lies_ganz(path);
+  // Rows that can't be read now must not be overwritten by the empty table that they give.
+  if (!gelesen && ist_Arbeitskopie(path) && ablage_.stand(path).da) zu_retten_ = true;
+  std::string inhalt = gelesen.value_or("");
   if (inhalt.ends_with('\0')) ablage_.meldungen().melde("measurement", path, "NUL bytes left out");
   inhalt = markiert(std::move(inhalt));
   Messleser leser(inhalt);

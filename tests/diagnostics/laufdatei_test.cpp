@@ -272,6 +272,77 @@ TEST_F(Laufdatei, FullDiskKeepsTheRunBeforeUntilItCanBeKeptBeside) {
   EXPECT_EQ(proben(), (Namen{"sample 2", "sample 3"}));
 }
 
+// The second limit has room for a table without rows, but not for the run before.
+TEST_F(Laufdatei, RunBeforeThatCouldNotBeKeptIsNotOverwrittenAtTheEndEither) {
+  ASSERT_TRUE(datei.Lauf_beginnen());
+  for (int n = 1; n <= 9; ++n) ASSERT_TRUE(probe(n));
+  const std::string lauf = inhalt();
+  EXPECT_TRUE(mit_enger_platte(100, [this, &lauf] {
+    bool gut = !datei.Lauf_beginnen() && inhalt() == lauf;
+    m.DiaG_zurueck_setz();
+    const rlimit grenze{static_cast<rlim_t>(lauf.size() / 2), RLIM_INFINITY};
+    ::setrlimit(RLIMIT_FSIZE, &grenze);
+    gut = gut && !datei.Arbeitskopie_schreiben() && inhalt() == lauf;
+    gut = gut && datei.SaveDiaG("other.fmd");  // so it would have fitted
+    erweitere_Platte();
+    return gut && datei.Arbeitskopie_schreiben() && inhalt() != lauf;
+  }));
+  EXPECT_EQ(desk.ordner.lies(Beiseite), lauf);
+}
+
+TEST_F(Laufdatei, RefusalThatLastsIsLoggedOnce) {
+  ASSERT_TRUE(datei.Lauf_beginnen());
+  ASSERT_TRUE(probe(1));
+  EXPECT_TRUE(mit_enger_platte(static_cast<rlim_t>(inhalt().size() + 300), [this] {
+    for (int n = 2; n <= 20; ++n)
+      if (probe(n)) return false;
+    return desk.meldungen.zeilen().size() == 1;
+  }));
+}
+
+TEST_F(Laufdatei, RunBeforeThatCanNotBeKeptIsLoggedOnce) {
+  ASSERT_TRUE(datei.Lauf_beginnen());
+  ASSERT_TRUE(probe(1));
+  EXPECT_TRUE(mit_enger_platte(100, [this] {
+    if (datei.Lauf_beginnen()) return false;
+    for (int n = 2; n <= 20; ++n) {
+      desk.uhr.Warten(5000);
+      if (probe(n)) return false;
+    }
+    return desk.meldungen.zeilen().size() == 1;
+  }));
+}
+
+TEST_F(Laufdatei, CutOffRowThatCanNotBeCutBackIsLoggedOnce) {
+  ASSERT_TRUE(datei.Lauf_beginnen());
+  ASSERT_TRUE(probe(1));
+  desk.ordner.schreib(Datei, inhalt() + "\"12:00:05\"\r\n\"2.5");
+  EXPECT_TRUE(mit_enger_platte(100, [this] {
+    for (int n = 2; n <= 20; ++n)
+      if (probe(n)) return false;
+    return desk.meldungen.zeilen().size() == 1 && !desk.gemeldet("cut back");
+  }));
+}
+
+// Larger than what a program can take into its memory.
+TEST_F(Laufdatei, WorkingCopyThatCanNotBeReadIsNotOverwritten) {
+  constexpr std::uintmax_t bytes = (std::uintmax_t{1} << 30) + 1;
+  desk.ordner.schreib(Datei, "\"Project\"\r\n");
+  std::filesystem::resize_file(desk.ordner.pfad(Datei), bytes);
+  datei.LoadDiaG(Datei);
+  EXPECT_EQ(m.Messpunkte(), 0);
+  EXPECT_FALSE(datei.Arbeitskopie_schreiben());
+  EXPECT_FALSE(datei.Lauf_beginnen());
+  const std::size_t gemeldet = desk.meldungen.zeilen().size();
+  for (int n = 1; n <= 20; ++n) EXPECT_FALSE(probe(n));
+  EXPECT_EQ(desk.meldungen.zeilen().size(), gemeldet);
+  EXPECT_EQ(std::filesystem::file_size(desk.ordner.pfad(Datei)), bytes);
+
+  std::filesystem::remove(desk.ordner.pfad(Datei));
+  EXPECT_TRUE(probe(21));
+  EXPECT_EQ(proben().size(), 21U);
+}
+
 TEST_F(Laufdatei, UnwantedRowsThatCouldNotBeKeptAreNotOverwritten) {
   ASSERT_TRUE(datei.Lauf_beginnen());
   ASSERT_TRUE(probe(1));
