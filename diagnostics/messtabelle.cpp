@@ -82,7 +82,7 @@ void Messtabelle::einfuegen(int zeile, int anzahl) {
 
 void Messtabelle::entfernen(int zeile, int anzahl) {
   if (zeile < 1 || zeile > Zeilenzahl() || anzahl <= 0) return;
-  const int ende = std::min(zeile + anzahl, Zeilenzahl() + 1);
+  const int ende = zeile + std::min(anzahl, Zeilenzahl() + 1 - zeile);
   zeilen_.erase(zeilen_.begin() + zeile, zeilen_.begin() + ende);
   if (Zeilenzahl() < Erste) setze_Zeilenzahl(Erste);
 }

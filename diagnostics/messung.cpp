@@ -1,10 +1,13 @@
 #include "diagnostics/messung.h"
 
+#include <algorithm>
+
 namespace polarkreis {
 
 // Rows are inserted above the row that is named, so that row 3, the newest, is the empty one.
 void Messung::Zeile_Ein(int zeile, int anzahl) {
-  DiaSpread.einfuegen(zeile - 1, anzahl);
+  if (anzahl <= 0) return;
+  DiaSpread.einfuegen(std::max(zeile - 1, Messtabelle::Erste), anzahl);
   Mess_Zeilen += anzahl;
 }
 

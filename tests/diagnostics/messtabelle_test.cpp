@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "diagnostics/messung.h"
 
 using namespace polarkreis;
@@ -123,7 +125,7 @@ TEST(Messtabelle, RowsTakenOutPullTheOthersUp) {
   EXPECT_EQ(tabelle.Zeilenzahl(), 198);
   tabelle.entfernen(190, 1000);
   EXPECT_EQ(tabelle.Zeilenzahl(), 189);
-  tabelle.entfernen(1, 1000);
+  tabelle.entfernen(1, std::numeric_limits<int>::max());
   EXPECT_EQ(tabelle.Zeilenzahl(), 3);
 }
 
@@ -158,6 +160,19 @@ TEST(Messung, InsertedRowMakesRoomForTheNewestOnTop) {
   m.Zeile_Ein(4, 1);
   EXPECT_EQ(namen(m.DiaSpread), ".abc.");
   EXPECT_EQ(m.Mess_Zeilen, 6);
+}
+
+TEST(Messung, InsertedRowsNeverMoveTheCaptions) {
+  Messung m;
+  m.DiaSpread = dreizeilig();
+  m.DiaSpread.setze(2, 2, "point");
+  m.Mess_Zeilen = 5;
+  for (int zeile : {3, 1, -7}) m.Zeile_Ein(zeile, 1);
+  m.Zeile_Ein(4, 0);
+  m.Zeile_Ein(4, -2);
+  EXPECT_EQ(m.DiaSpread.text(2, 2), "point");
+  EXPECT_EQ(namen(m.DiaSpread), "...ab");
+  EXPECT_EQ(m.Mess_Zeilen, 8);
 }
 
 TEST(Messung, FilledRowsBehindThoseInUseCount) {
