@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "diagnostics/kern.h"
+
 namespace polarkreis {
 
 namespace {
-
-constexpr double Atmosphaere = 1.013;  // bar, as in the kernel
 
 /// The largest of 1, 2 and 5 times a power of ten that parts the span into at least five steps.
 double schritt_von(double spanne) {
