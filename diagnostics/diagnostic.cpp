@@ -11,6 +11,7 @@ namespace {
 
 constexpr int Suchen = 2, Probe = 0;
 constexpr int ohne_Frage = 1;
+constexpr const char* Logger_arbeitet = "The logger is at work: please wait until it is done.";
 
 // A choice by its number; anything else is none.
 int wahl(std::string_view text, int hoechste) {
@@ -36,7 +37,11 @@ void DiaGnostic::vorbereiten() {
   kanaele.Offset_laden();
   park_laden();
   Einheiten_Standard(messung.OrbiN_spread, m_.captions);
-  for (int einheit : {1, 2}) Col_Standard(messung, m_.captions, 1, einheit, kanaele.Box_Typ);
+  Spalten_beschriften();
+}
+
+void DiaGnostic::Spalten_beschriften() {
+  for (int einheit : {1, 2}) Col_Standard(messung, m_.captions, 2, einheit, kanaele.Box_Typ);
 }
 
 void DiaGnostic::Form_Load() {
@@ -48,9 +53,11 @@ void DiaGnostic::Form_Load() {
 }
 
 Messdatei::Ladung DiaGnostic::laden(std::string_view path) {
+  if (logger.belegt()) return {.abgelehnt = true};
   const std::string methode = messung.Combo4;
   const Messdatei::Ladung ladung = datei.LoadDiaG(path, &m_.fortschritt);
   if (messung.Combo4.empty()) messung.Combo4 = methode;
+  Spalten_beschriften();
   return ladung;
 }
 
@@ -65,22 +72,27 @@ bool DiaGnostic::Quelle_suchen() {
 }
 
 bool DiaGnostic::auswerten() {
-  if (!kern.rechenkern(m_.fortschritt)) return false;
+  if (logger.belegt() || !kern.rechenkern(m_.fortschritt)) return false;
   return DiaG_Protokoll(messung, m_.captions, kern.Funktion,
                         {kern.Summe_Energ, kern.Sum_zeit_messung}, m_.ablage);
 }
 
 Importergebnis DiaGnostic::DiaG_import(std::string_view path, int mode, int teil) {
-  return rechne_nach(import.DiaG_import(path, mode, teil));
+  if (logger.belegt()) return {.grund = Logger_arbeitet};
+  const Importergebnis ergebnis = import.DiaG_import(path, mode, teil);
+  Spalten_beschriften();  // the file may be of another kind of box
+  return rechne_nach(ergebnis);
 }
 
 Importergebnis DiaGnostic::CC_excel_Import(std::string_view path) {
-  kern.beginnen();
+  if (logger.belegt()) return {.grund = Logger_arbeitet};
+  m_.kreis.km.z.Antrieb = messung.Antrieb;  // the power factor depends on it
   return rechne_nach(import.CC_excel_Import(path, m_.mappen,
                                             [this](double strom) { return kern.Cos_phi(strom); }));
 }
 
 Importergebnis DiaGnostic::Testo_Excel_import(std::string_view path, int kind) {
+  if (logger.belegt()) return {.grund = Logger_arbeitet};
   return rechne_nach(import.Testo_Excel_import(path, m_.mappen, kind));
 }
 
@@ -111,10 +123,10 @@ void DiaGnostic::park_laden() {
   messung.Antrieb = wahl(park.Antrieb, 3);
 }
 
-bool DiaGnostic::park_speichern() {
+void DiaGnostic::park_speichern() {
   const auto zahl = [](int wert) { return std::to_string(wert); };
-  return Park_Schreiben(m_.ablage, {Zahl_Text(messung.Hub_Volumen), messung.Combo4,
-                                    zahl(messung.Bauart), zahl(messung.Antrieb)});
+  Park_Schreiben(m_.ablage, {Zahl_Text(messung.Hub_Volumen), messung.Combo4, zahl(messung.Bauart),
+                             zahl(messung.Antrieb)});
 }
 
 }  // namespace polarkreis

@@ -29,7 +29,9 @@ struct Diagnosemittel {
   Fortschritt& fortschritt;
 };
 
-/// The form of the plant diagnostics: one of each of its jobs, on one measurement.
+/// The form of the plant diagnostics: one of each of its jobs, on one measurement. While the logger
+/// is at work (`Logger::belegt`), what would change the table under it does nothing: `laden` is
+/// refused, `auswerten` gives false, an import gives its reason.
 class DiaGnostic {
  public:
   explicit DiaGnostic(const Diagnosemittel& mittel);
@@ -57,8 +59,8 @@ class DiaGnostic {
   /// The form opens: prepares, brings the last state back from the working copy, reads the column
   /// widths, looks for the file-fed source and else for a logger.
   void Form_Load();
-  /// Loads a measurement; one without a method of the mass flow takes that of the compressor
-  /// parameters.
+  /// Loads a measurement; one without a method of the mass flow leaves the method in force, which
+  /// is that of the compressor parameters at first.
   Messdatei::Ladung laden(std::string_view path);
   /// Looks at both files of the source; the first that holds something is the source in use.
   bool Quelle_suchen();
@@ -78,8 +80,9 @@ class DiaGnostic {
   bool endeDiaG(int mode);
 
  private:
+  void Spalten_beschriften();
   void park_laden();
-  bool park_speichern();
+  void park_speichern();
   Importergebnis rechne_nach(Importergebnis ergebnis);
 };
 
