@@ -33,7 +33,9 @@ int Box_Typ_von(std::string_view antwort) {
 }
 
 AntwortLeser::AntwortLeser(std::string_view antwort) : rest_(antwort) {
-  if (rest_.starts_with(Messbefehl)) rest_.remove_prefix(Messbefehl.size());
+  if (!rest_.starts_with(Messbefehl)) return;
+  rest_.remove_prefix(Messbefehl.size());
+  if (rest_.starts_with('\n')) rest_.remove_prefix(1);
 }
 
 bool AntwortLeser::abtrennen(std::size_t ende, std::size_t weiter, std::string_view& token) {

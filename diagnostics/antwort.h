@@ -21,8 +21,8 @@ int Box_Typ_von(std::string_view antwort);
 
 /// Takes the tokens off a reply, from left to right; their positions count from 1. A token ends at
 /// the next blank, so two blanks in a row make an empty one. The last one ends at "ok", where no
-/// blank follows and at least five characters are left. An echo of the request before the reply is
-/// passed over.
+/// blank follows and at least five characters are left. An echo of the request before the reply,
+/// with or without a line feed behind it, is passed over.
 class AntwortLeser {
  public:
   explicit AntwortLeser(std::string_view antwort);

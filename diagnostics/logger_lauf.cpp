@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "diagnostics/einheiten_funktion.h"
 #include "diagnostics/logger.h"
 #include "diagnostics/zeiten.h"
@@ -11,6 +13,8 @@ constexpr int Port_Quelle = 78;
 constexpr int Kalib_Proben = 5;
 constexpr std::size_t Quelle_Antwort_min = 25;
 constexpr int Quelle_Reserve = 10;  // rows that a file-fed run keeps free below the planned count
+/// A nonsense interval must not keep a run from ending: no pause is longer than a week.
+constexpr double Pause_max_ms = 7 * 24 * 3600 * 1000.0;
 constexpr int Diagramm_erstes = 3, Diagramm_letztes = 5;  // tabs
 
 bool ist_Kalibrierung(int run_kind) {
@@ -176,7 +180,8 @@ void Logger::sichern_melden(bool gesichert) {
 
 /// What is left of the interval: the part below a second in one piece, then second by second.
 void Logger::Pause(const std::string& t1) {
-  const double warten = time_diff(t1, Messzeit_Text(m_.uhr.UTC()), 0, m_.messung.Messintervall_s());
+  const double rest = time_diff(t1, Messzeit_Text(m_.uhr.UTC()), 0, m_.messung.Messintervall_s());
+  const double warten = std::min(rest, Pause_max_ms);
   const double sekunden = Int(warten / 1000);
   m_.uhr.Warten(static_cast<int>(warten - sekunden * 1000));
   m_.empfaenger.Ereignisse();
@@ -197,6 +202,7 @@ void Logger::Geraet_verloren(int i) {
 
 void Logger::Kalibrierung_beginnen() {
   Offset_vorher_ = m_.kanaele.Offset_Wert;
+  Kalib_Bezug_ = leer;
   Kalib_Druck_.clear();
   Kalib_Differenz.clear();
 }

@@ -109,6 +109,7 @@ void Logger::Druck_kalibrieren(int position, double value) {
   const double druck = Messwert_von(Kanalart::analog, value, 0, wandlung);
   Kalib_Druck_[position] = druck;
   if (position == Position_Pc) Kalib_Bezug_ = druck;
+  if (ist_leer(Kalib_Bezug_)) return;
   for (const auto& [stelle, wert] : Kalib_Druck_)
     if (stelle != Position_Pc) Kalib_Differenz[stelle] = Kalib_Bezug_ - wert;
 }

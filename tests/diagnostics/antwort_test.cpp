@@ -87,6 +87,7 @@ TEST(AntwortLeser, EndsWhereNeitherBlankNorOkIsLeft) {
 
 TEST(AntwortLeser, PassesOverAnEchoBeforeTheReply) {
   EXPECT_EQ(tokens("ec %*\r230.1 4.2 12:05:09ok"), (Texte{"230.1", "4.2", "12:05:09"}));
+  EXPECT_EQ(tokens("ec %*\r\n230.1 4.2 12:05:09ok"), (Texte{"230.1", "4.2", "12:05:09"}));
   EXPECT_EQ(tokens(Messbefehl), Texte{});
 }
 

@@ -96,6 +96,15 @@ TEST_F(LoggerKalibrierung, Tab1CalibratesPressuresAndStoresNoOffsetForThem) {
   EXPECT_TRUE(logger.Offset_zeigen);
 }
 
+TEST_F(LoggerKalibrierung, PressuresWithoutTheirReferenceHaveNoDifference) {
+  logger.Kalib_Tab = 1;
+  logger.Start_Kalib();
+  EXPECT_EQ(logger.Kalib_Differenz, (std::map<int, double>{{7, 8}}));
+  port.geraete[4] = immer("231 231 231 10 10 10 5 ok\r\n");  // ends before position 8
+  logger.Start_Kalib();
+  EXPECT_TRUE(logger.Kalib_Differenz.empty()) << "the reference of the run before is gone";
+}
+
 TEST_F(LoggerKalibrierung, OneThatIsStoppedLeavesTheOffsets) {
   for (double& wert : kanaele.Offset_Wert) wert = 7;
   const auto vorher = kanaele.Offset_Wert;

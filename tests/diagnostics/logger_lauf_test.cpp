@@ -90,6 +90,15 @@ TEST_F(LoggerLauf, SlowSampleIsFollowedWithoutAPause) {
   EXPECT_EQ(empfaenger.ereignisse, 2);
 }
 
+TEST_F(LoggerLauf, NonsenseIntervalDoesNotKeepARunFromEnding) {
+  uhr.beim_warten = nullptr;
+  messung.Combo2 = "1e300s";
+  beim_Ereignis(2, [this] { go(); });
+  go();
+  EXPECT_EQ(empfaenger.messwerte, 1);
+  EXPECT_EQ(std::count(uhr.gewartet.begin(), uhr.gewartet.end(), 1000), 7 * 24 * 3600);
+}
+
 TEST_F(LoggerLauf, NewestSampleIsRow3WithItsLocalTime) {
   messung.Combo5 = "0.2 min";  // 2.4 samples: 3 are taken
   go();
