@@ -18,7 +18,7 @@ class SeriellerPort {
   virtual void Oeffnen() = 0;
   virtual void Schliessen() = 0;
   virtual void Schreiben(std::string_view text) = 0;
-  /// All text received so far, without waiting.
+  /// All text received so far; empty where none has come yet. It doesn't wait for a reply to begin.
   virtual std::string Lesen() = 0;
   /// True if an operation since the last opening failed.
   virtual bool Fehler() const = 0;

@@ -258,6 +258,11 @@ bool Leitung::lies(std::string& text, std::string& grund) {
   return true;
 }
 
+bool Leitung::kommt_noch(int ms) const {
+  pollfd warten{nummer_, POLLIN, 0};
+  return ::poll(&warten, 1, ms) > 0 && (warten.revents & POLLIN) != 0;
+}
+
 /// A port that was unplugged reads as an empty one; only this tells.
 bool Leitung::abgerissen() const {
   pollfd frage{nummer_, POLLIN, 0};

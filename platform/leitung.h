@@ -41,6 +41,8 @@ class Leitung {
   /// Appends what has been received, without waiting. False if the line is gone; what it still gave
   /// is there.
   bool lies(std::string& text, std::string& grund);
+  /// Waits for more, at most so long; true if something has come.
+  bool kommt_noch(int ms) const;
 
  private:
   Leitung() = default;

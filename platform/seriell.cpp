@@ -3,6 +3,7 @@
 #include <libserialport.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -12,6 +13,9 @@
 namespace polarkreis {
 
 namespace {
+
+constexpr std::chrono::seconds Laengste_Antwort{1};
+constexpr std::size_t Groesste_Antwort = 1 << 16;  // a line that babbles has no end
 
 bool ziffer(char zeichen) {
   return zeichen >= '0' && zeichen <= '9';
@@ -123,10 +127,16 @@ void Seriellschnittstelle::Schreiben(std::string_view text) {
   if (leitung_ || !fehler_) misslungen(std::move(grund));
 }
 
+// A slow line has sent the beginning of a reply only (25 ms are 24 characters at 9600 baud), and
+// the rest would be lost with the next opening: what has begun is read to its end.
 std::string Seriellschnittstelle::Lesen() {
   std::string text, grund = "the port is closed";
-  if (leitung_ && leitung_->lies(text, grund)) return text;
-  if (leitung_ || !fehler_) misslungen(std::move(grund));
+  const auto ende = std::chrono::steady_clock::now() + Laengste_Antwort;
+  bool gut = leitung_ && leitung_->lies(text, grund);
+  while (gut && !text.empty() && text.size() < Groesste_Antwort &&
+         std::chrono::steady_clock::now() < ende && leitung_->kommt_noch(Ruhe_ms))
+    gut = leitung_->lies(text, grund);
+  if (!gut && (leitung_ || !fehler_)) misslungen(std::move(grund));
   return text;
 }
 

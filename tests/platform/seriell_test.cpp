@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "platform/leitung.h"
 #include "support/temp_folder.h"
@@ -128,6 +129,21 @@ TEST(Seriell, AssignedDevicesStandInTheListInPlaceOfTheSystems) {
   for (std::size_t i = 1; i < liste.size(); ++i) EXPECT_LT(liste[i - 1].nummer, liste[i].nummer);
   port.zuweisen(700, "");
   EXPECT_NE(port.liste().back().nummer, 700);
+}
+
+TEST_F(SeriellTest, AReplyThatHasBegunIsReadToItsEnd) {
+  port.Ruhe_ms = 500;  // far more than any pause between the pieces
+  port.Oeffnen();
+  std::thread langsam([this] {
+    for (const char* stueck : {"400.1 ", "399.8 ", "400.4 ", "12:05:09ok"}) {
+      gegenstelle.sende(stueck);
+      ::usleep(5000);
+    }
+  });
+  std::string text;
+  while (text.empty()) text = port.Lesen();
+  langsam.join();
+  EXPECT_EQ(text, "400.1 399.8 400.4 12:05:09ok");
 }
 
 TEST_F(SeriellTest, SendsAndReceivesRawBytes) {
