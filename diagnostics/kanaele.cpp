@@ -20,7 +20,6 @@ constexpr int Positionen = 53;
 constexpr int Slots = 48;
 constexpr int Slots_gelesen = 32;
 /// A spare column: a monitoring box needs the one of `Orbiter 1`'s sixth temperature for itself.
-constexpr int Spalte_Ausweich = 72;
 
 /// The column of each position, from position 0 on.
 constexpr std::array<int, Positionen + 1> Spalten_der_Positionen = [] {
@@ -62,7 +61,7 @@ int Spalte_der_Position(int position, bool Messbox) {
   if (position < 1 || position > Positionen) return Spalte::Senke;
   if (Messbox && position == 10) return Spalte::von(Spalte::E_t_Exp, 1);
   if (Messbox && position == 11) return Spalte::Fluss_Verfl;
-  if (Messbox && position == 30) return Spalte_Ausweich;
+  if (Messbox && position == 30) return Spalte::Ausweich;
   return Spalten_der_Positionen[static_cast<std::size_t>(position)];
 }
 

@@ -16,7 +16,6 @@ namespace S = Spalte;
 constexpr int Zeile_Texte = 1, Zeile_Punkte = 2;
 constexpr int Letzte_Einheit = 5;
 /// Where the bulb temperature of `Orbiter 1` goes when a monitoring box needs its column.
-constexpr int Spalte_Ausweich = 72;
 constexpr int Leitkiste = 1;  // in a measuring point's name; `Orbiter` i is i + 1 there
 
 /// A line of a caption file, or none.
@@ -171,11 +170,11 @@ void Kopfzeilen::Grundgeraet(bool Monitoring) {
 void Kopfzeilen::Orbiter(int i, bool Monitoring) {
   const std::string name = "Orbiter " + std::to_string(i) + " ";
   const bool ausweichen = Monitoring && i == 1;
-  if (i == 1) setze(Spalte_Ausweich, "");
+  if (i == 1) setze(Spalte::Ausweich, "");
   for (const Punktspalte& punkt : Punkte_Orbiter) {
     const int spalte = S::von(static_cast<S::Einheit>(punkt.spalte), i);
     if (spalte == S::Senke) continue;
-    Punkt(i + 1, punkt, ausweichen && punkt.spalte == S::E_t_Exp ? Spalte_Ausweich : spalte, name);
+    Punkt(i + 1, punkt, ausweichen && punkt.spalte == S::E_t_Exp ? Spalte::Ausweich : spalte, name);
   }
   setze(S::von(S::E_t_P1, i), name + wort(Caption::Temperatur) + " P1 /[°C]");
   setze(S::von(S::E_t_P2, i), name + wort(Caption::Temperatur) + " P2 /[°C]");

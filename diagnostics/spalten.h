@@ -32,6 +32,7 @@ enum Nummer : int {
   t_ein_Verfl = 26,   ///< secondary side of the condenser, inlet ("t in3")
   t_aus_Verfl = 27,   ///< and outlet ("t out4")
   Senke = 67,         ///< takes what has no column of its own
+  Ausweich = 72,      ///< takes the remote bulb's place where a monitoring box is wired
   P_Phasen = 132,     ///< power of units 1 and 2 by phase, kW: 132 to 137
   EER_Anlage = 138,   ///< of the whole plant
   m_KM = 139,         ///< refrigerant mass flow, kg/h
