@@ -213,6 +213,14 @@ class Replies(unittest.TestCase):
             text = text[at:].split(":", 2)[2]
         self.assertEqual(names, wanted)
 
+    def test_transfer_name_can_be_asked_for(self):
+        memory = Memory()
+        memory.put("A.adc", "a")
+        self.assertFalse(memory.rename("aaaa.adc", "aaaa.adc"))
+        self.assertTrue(memory.rename("A.adc", "aaaa.adc"))
+        self.assertTrue(memory.rename("aaaa.adc", "aaaa.adc"))
+        self.assertEqual(memory.get("aaaa.adc"), "a")
+
 
 class Settings(unittest.TestCase):
     def test_settings_belong_to_their_plant(self):

@@ -17,6 +17,8 @@ class Memory:
         """False for a name that isn't there. A file that had the transfer name gets its own one back."""
         if self._moved == (to, name) and to in self._files:
             return True
+        if name == to:
+            return name in self._files
         if name not in self._files:
             return False
         if self._moved[0] == to and to in self._files:
