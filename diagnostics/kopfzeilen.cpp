@@ -15,7 +15,6 @@ namespace S = Spalte;
 
 constexpr int Zeile_Texte = 1, Zeile_Punkte = 2;
 constexpr int Letzte_Einheit = 5;
-/// Where the bulb temperature of `Orbiter 1` goes when a monitoring box needs its column.
 constexpr int Leitkiste = 1;  // in a measuring point's name; `Orbiter` i is i + 1 there
 
 /// A line of a caption file, or none.
