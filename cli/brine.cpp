@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 
 #include "ausgabe.h"
@@ -25,14 +26,16 @@ std::string namen(Solen& solen) {
 }
 
 // A concentration that the settings give for this fluid; else the one that protects down to `t`, or
-// down to what stands in for a temperature without frost.
+// down to what stands in for a temperature without frost: at most to the lowest of the fluid.
 double konzentration(Solen& solen, const Wuensche& w, const Captions& captions) {
   Messung messung;
   Messeinstellungen(w.einstellungen).anwenden(messung, solen, captions);
   if (gleich(messung.Medium_Verd, w.name) && !ist_leer(messung.Konz_Verd)) return messung.Konz_Verd;
   if (gleich(messung.Medium_Verfl, w.name) && !ist_leer(messung.Konz_Verfl))
     return messung.Konz_Verfl;
-  return solen.Frostschutz_Eingabe(w.name, Zahl_Text(w.t)).Konzentration;
+  const double tmin = solen.Sole_Grenzen(w.name);
+  const double t = solen.Frostschutz_Eingabe(w.name, Zahl_Text(w.t)).t;
+  return solen.Konzentration(w.name, std::max(t, tmin));
 }
 
 void ausfuehren(Sitzung& sitzung, const Wuensche& w) {

@@ -24,6 +24,8 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Messempfaenger stumm;
   Messplatz platz(sitzung, w, stumm);
   platz.dialog.antwort = antwort_von(w);
+  // Only a run of measurements overwrites the working copy: read here it needs no copy beside.
+  platz.diagnose.datei.Arbeitskopie.clear();
   const Messdatei::Ladung ladung = platz.laden(w.datei);
   if (ladung.abgelehnt) {
     if (!w.nein) melde("The measurement was not read. With --yes it is, however long.");

@@ -49,6 +49,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w, const Importweg& weg) {
                   std::to_string(ergebnis.Teile) + " parts. Choose one with --part.");
   if (!ergebnis.grund.empty()) throw Abbruch(ergebnis.grund);
   if (!ergebnis.hinweis.empty()) melde(ergebnis.hinweis);
+  platz.stoff_pruefen();
   platz.speichern();
   platz.drucken({});
 }

@@ -106,6 +106,7 @@ void messen(Sitzung& sitzung, const Wuensche& w) {
   Messplatz platz(sitzung, w, beobachter);
   vorbereiten(platz, w);
   quelle_suchen(w, platz.diagnose);
+  platz.stoff_pruefen();
   DiaGnostic& d = platz.diagnose;
   beobachter.beginnen(d, platz.uhr);
   d.logger.Start_Butt1(Logger::Messen);

@@ -150,12 +150,13 @@ void Messeinstellungen::vor_dem_laden(Messung& messung) const {
 }
 
 void Messeinstellungen::anwenden(Messung& messung, Solen& solen, const Captions& captions) const {
+  // Before anything is set: a caller may go on with the measurement as it was.
+  for (const char* name : {"Medium_Verd", "Medium_Verfl"})
+    if (hat(name)) medium_pruefen(text_von(name, json_.at(name)), solen);
   for (const auto& [name, wert] : json_.items()) setze_einstellung(name, wert, &captions, messung);
   // The method overrides the list's text, wherever it stands in the file.
   const std::string methode(kMethode);
   if (hat(methode)) setze_einstellung(methode, json_.at(methode), &captions, messung);
-  medium_pruefen(messung.Medium_Verd, solen);
-  medium_pruefen(messung.Medium_Verfl, solen);
 }
 
 std::string messeinstellungen_namen() {

@@ -25,7 +25,7 @@ class Messeinstellungen {
   /// What a load must know before it reads: the plausibility filter.
   void vor_dem_laden(Messung& messung) const;
   /// All of them, in the order of the file. Throws `Abbruch` for a secondary fluid that isn't
-  /// known.
+  /// known, before any is set.
   void anwenden(Messung& messung, Solen& solen, const Captions& captions) const;
 
   bool hat(const std::string& name) const { return json_.contains(name); }

@@ -88,17 +88,17 @@ void Messplatz::einstellen() {
 }
 
 void Messplatz::auswerten() {
-  stoff_pruefen();
+  if (diagnose.messung.Messpunkte() > 0) stoff_pruefen();
   const bool geschrieben = diagnose.auswerten();
   fortschritt.loeschen();
   if (!geschrieben) sitzung_.fehler(grund(p.ablage, "The protocol could not be written."));
 }
 
 // A measurement without a refrigerant is evaluated as far as it goes.
-void Messplatz::stoff_pruefen() {
-  const std::string& stoff = diagnose.messung.KaelteM;
-  if (diagnose.messung.Messpunkte() == 0 || Kaeltemittel::KM_Bekannt(stoff)) return;
-  melde(getrimmt(stoff).empty()
+void Messplatz::stoff_pruefen() const {
+  const std::string stoff(getrimmt(diagnose.messung.KaelteM));
+  if (Kaeltemittel::KM_Bekannt(stoff)) return;
+  melde(stoff.empty()
             ? "The measurement names no refrigerant, so that no figures of the cycle come out. "
               "Give it as \"KaelteM\" with --settings."
             : "\"" + stoff +

@@ -49,6 +49,8 @@ class Messplatz {
   /// Puts the settings into the measurement; a capacity that they don't give is the working
   /// project's.
   void einstellen();
+  /// Tells if the measurement's refrigerant gives no figures of the cycle.
+  void stoff_pruefen() const;
   /// Computes the rows and writes the protocol; tells what stands in the way of figures.
   void auswerten();
   /// Saves the measurement where the call asks for it.
@@ -57,8 +59,6 @@ class Messplatz {
   void drucken(const Messdatei::Ladung& ladung);
 
  private:
-  void stoff_pruefen();
-
   Sitzung& sitzung_;
   const Messwuensche& wuensche_;
   Messeinstellungen einstellungen_;
