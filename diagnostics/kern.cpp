@@ -149,7 +149,8 @@ void Kern::auswahl_lesen() {
   a.RGCombo = m.RGCombo;
   a.Anlage = anlage;
   a.Mass_Art = Mass_Art(m.Combo4, captions_);
-  a.gestuft = gleich(m.RGCombo, captions_.text(JMapCap::Regelung_Stufen));
+  // A language without that caption has no empty text mean it.
+  a.gestuft = !m.RGCombo.empty() && gleich(m.RGCombo, captions_.text(JMapCap::Regelung_Stufen));
   a.einphasig = gleich(anlage, captions_.text(VerbCapt::Verdichter) + " - 1 ph.");
 }
 

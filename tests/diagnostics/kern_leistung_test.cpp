@@ -345,6 +345,20 @@ TEST(KernKennzahlen, CapacityInStepsLosesFourPercent) {
   EXPECT_EQ(gestuft.zelle(147), glatt.zelle(147));
 }
 
+TEST(KernKennzahlen, WithoutCaptionsAnEmptyControlIsNotTheOneInSteps) {
+  Anlage mit, ohne;
+  ohne.captions.Sprache = "XXX";
+  ohne.captions.Captions_Laden();
+  for (Anlage* d : {&mit, &ohne}) {
+    d->messung.Q0 = 10;
+    d->messung.Combo4 = "some method";
+    d->laufend();
+    d->rechne();
+  }
+  EXPECT_GT(mit.zahl(144), 0);
+  EXPECT_EQ(ohne.zelle(144), mit.zelle(144));
+}
+
 TEST(KernKennzahlen, ThePlantsPowerLessTheCompressorsIsTheRest) {
   Anlage d;
   d.messung.Q0 = 10;
