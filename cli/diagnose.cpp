@@ -20,6 +20,15 @@ Antwortweise antwort_von(const Wuensche& w) {
   return w.nein ? Antwortweise::nein : Antwortweise::fragen;
 }
 
+// Some instruments measure no pressures at all.
+void leere_melden(const std::string& datei, int verworfen) {
+  std::string text = "The file \"" + datei + "\" holds no measured rows";
+  if (verworfen > 0)
+    text += " with pressures: " + std::to_string(verworfen) +
+            " without were left out. With \"Auto_corr_Check\" 0 in --settings they are taken";
+  melde(text + ".");
+}
+
 void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Messempfaenger stumm;
   Messplatz platz(sitzung, w, stumm);
@@ -30,8 +39,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   if (ladung.abgelehnt) {
     if (!w.nein) melde("The measurement was not read. With --yes it is, however long.");
   } else {
-    if (platz.diagnose.messung.Messpunkte() == 0)
-      melde("The file \"" + w.datei + "\" holds no measured rows.");
+    if (platz.diagnose.messung.Messpunkte() == 0) leere_melden(w.datei, ladung.verworfen);
     platz.auswerten();
     platz.speichern();
   }

@@ -34,10 +34,9 @@ bool hat_Zeilenzahl(const std::string& inhalt) {
   return !zahl.empty() && std::ranges::all_of(zahl, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-// A power failure leaves NUL bytes at the end of a file, never inside it.
-bool ist_binaer(const std::string& inhalt) {
-  const std::size_t ende = inhalt.find_last_not_of('\0');
-  return inhalt.find('\0') < ende && ende != std::string::npos;
+// Behind a byte order mark, if there is one.
+bool beginnt_mit_Item(const std::string& inhalt) {
+  return inhalt.substr(0, 4).find('"') != std::string::npos;
 }
 
 }  // namespace
@@ -71,7 +70,7 @@ Messdatei::Ladung Messplatz::laden(const std::string& name) {
   const Messdatei::Ladung ladung = diagnose.laden(pfad);
   fortschritt.loeschen();
   const bool leer = diagnose.messung.Messpunkte() == 0 && !ladung.abgelehnt;
-  if ((leer || ist_binaer(*inhalt)) && !hat_Zeilenzahl(*inhalt))
+  if ((leer || !beginnt_mit_Item(*inhalt)) && !hat_Zeilenzahl(*inhalt))
     throw Abbruch("The file \"" + name +
                   "\" is no measurement: its third line holds no row count. Files of other "
                   "instruments are read with \"import\".");
