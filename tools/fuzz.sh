@@ -26,14 +26,15 @@ run() {
     -print_final_stats=1 -artifact_prefix="$moment/" "$build/corpus/$target" "$build/seeds/$target" \
     >"$build/log/$target" 2>&1; then
     tail -n 40 "$build/log/$target"
-    for file in "$moment"/*; do mv "$file" "$build/findings/$target-$(basename "$file")"; done
+    for file in "$moment"/*; do [ ! -e "$file" ] || mv "$file" "$build/findings/$target-$(basename "$file")"; done
     echo "fuzz_$target: a finding, see $build/findings" >&2
     return 1
   fi
   # What lies here all the same broke a library in a process of its own, which is there for that.
   broken=$(find "$moment" -type f | wc -l)
-  echo "fuzz_$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$build/log/$target") inputs, none broke it" \
-    "$([ "$broken" -eq 0 ] || echo "($broken broke a library, which the program survived)")"
+  survived=
+  [ "$broken" -eq 0 ] || survived=" ($broken broke a library, which the program survived)"
+  echo "fuzz_$target: $(sed -n 's/^stat::number_of_executed_units: *//p' "$build/log/$target") inputs, none broke it$survived"
 }
 
 # Files of a moment live in memory.
