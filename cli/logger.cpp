@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "diagnostics/mittelwerte.h"
-#include "diagnostics/protokoll.h"
 #include "loggerlauf.h"
 #include "messplatz.h"
 #include "messung_json.h"
@@ -25,6 +23,7 @@ constexpr int kSuchen = 2;
 struct Wuensche : Messwuensche {
   std::vector<std::string> ports;
   std::string quelle, name;
+  int geduld_ms = 0;
 };
 
 // "N=DEVICE"
@@ -63,6 +62,7 @@ void quelle_suchen(const Wuensche& w, DiaGnostic& d) {
 
 void vorbereiten(Messplatz& platz, const Wuensche& w) {
   ports_zuweisen(w.ports, platz.port);
+  platz.port.Geduld_ms = w.geduld_ms;
   platz.einstellen();
 }
 
@@ -115,12 +115,8 @@ void messen(Sitzung& sitzung, const Wuensche& w) {
     sitzung.fehler("Nothing was measured.");
     return;
   }
-  MW_Bildung(d.messung, platz.fortschritt);
+  const bool geschrieben = d.datei.Arbeitskopie_schreiben() && d.kondensieren();
   platz.fortschritt.loeschen();
-  const bool geschrieben =
-      d.datei.Arbeitskopie_schreiben() &&
-      DiaG_Protokoll(d.messung, platz.p.captions, d.kern.Funktion,
-                     {d.kern.Summe_Energ, d.kern.Sum_zeit_messung}, platz.p.ablage);
   if (!geschrieben) sitzung.fehler(grund(platz.p.ablage, "The measurement could not be written."));
   platz.speichern();
   platz.drucken({});
@@ -188,6 +184,8 @@ void kalibrieren(Sitzung& sitzung, const Wuensche& w) {
     sitzung.fehler("The calibration did not come to its end; the offsets stay as they were.");
     return;
   }
+  if (const std::string& warum = platz.p.ablage.letzter_fehler(); !warum.empty())
+    sitzung.fehler("The offsets could not be stored. " + warum);
   Json json = Json::object();
   Tabelle tabelle{{druck ? "position" : "slot", druck ? "below position 8, bar" : "offset, K"}, {}};
   const auto nimm = [&](int nummer, double wert) {
@@ -239,6 +237,11 @@ void optionen_anmelden(CLI::App& befehl, const Unterbefehl& u, Wuensche& w) {
                   "n-th port of the system's list counts")
       ->type_name("N=DEVICE")
       ->allow_extra_args(false);
+  befehl
+      .add_option("--patience", w.geduld_ms,
+                  "Waits so long for a reply to begin, up to 5000 ms: for slow adapters (0)")
+      ->check(CLI::Range(0, 5000))
+      ->type_name("MS");
   if (u.misst)
     befehl
         .add_option("--feed", w.quelle,

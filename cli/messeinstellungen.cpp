@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include "diagnostics/methode.h"
 #include "jsondatei.h"
@@ -42,14 +43,18 @@ constexpr std::array<Ganzfeld, 5> kGanze{{{"Auto_corr_Check", &Messung::Auto_cor
                                           {"Antrieb", &Messung::Antrieb, 0, 3},
                                           {"ECO_OPT", &Messung::ECO_OPT, 0, 9}}};
 
+constexpr double kBeliebig = std::numeric_limits<double>::max();
+
+/// A number in a range.
 struct Zahlfeld {
   std::string_view name;
   double Messung::*feld;
+  double von = -kBeliebig, bis = kBeliebig;
 };
 constexpr std::array<Zahlfeld, 5> kZahlen{{{"Hub_Volumen", &Messung::Hub_Volumen},
                                            {"Q0", &Messung::Q0},
-                                           {"Konz_Verd", &Messung::Konz_Verd},
-                                           {"Konz_Verfl", &Messung::Konz_Verfl},
+                                           {"Konz_Verd", &Messung::Konz_Verd, 0, 100},
+                                           {"Konz_Verfl", &Messung::Konz_Verfl, 0, 100},
                                            {"C", &Messung::C}}};
 
 template <class Felder>
@@ -71,6 +76,15 @@ int ganze_von(const Ganzfeld& feld, const Json& wert) {
     throw Abbruch("The setting \"" + name + "\" must be a whole number from " +
                   std::to_string(feld.von) + " to " + std::to_string(feld.bis) + ".");
   return static_cast<int>(zahl);
+}
+
+double begrenzte_zahl(const Zahlfeld& feld, const Json& wert) {
+  const std::string name(feld.name);
+  const double zahl = zahl_von(name, wert);
+  if (zahl < feld.von || zahl > feld.bis)
+    throw Abbruch("The setting \"" + name + "\" must lie between " + Zahl_Text(feld.von) + " and " +
+                  Zahl_Text(feld.bis) + ".");
+  return zahl;
 }
 
 int methode_von(const Json& wert) {
@@ -103,7 +117,7 @@ void setze_einstellung(const std::string& name, const Json& wert, const Captions
   else if (const auto ganz = finde(kGanze, name); ganz != kGanze.end())
     messung.*ganz->feld = ganze_von(*ganz, wert);
   else if (const auto zahl = finde(kZahlen, name); zahl != kZahlen.end())
-    messung.*zahl->feld = zahl_von(name, wert);
+    messung.*zahl->feld = begrenzte_zahl(*zahl, wert);
   else if (name == kTabelle)
     tabelle_setzen(wert, messung.OrbiN_spread);
   else if (name == kMethode) {

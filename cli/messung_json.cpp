@@ -3,13 +3,12 @@
 #include <array>
 #include <string>
 
+#include "diagnostics/mittelwerte.h"
 #include "shell/text.h"
 
 namespace polarkreis::cli {
 
 namespace {
-
-constexpr int kTiefst = Messtabelle::Erste, kHoechst = kTiefst + 1, kMittel = kHoechst + 1;
 
 Json zellen_json(const Messung& messung) {
   Json zellen = Json::object();
@@ -73,10 +72,10 @@ Json rot_json(unsigned rot) {
 Json mittel_json(const Messtabelle& mittel) {
   Json json = Json::object();
   for (int spalte = 1; spalte <= Spalte::Gespeichert; ++spalte) {
-    if (mittel.text(kMittel, spalte).empty()) continue;
-    json[std::to_string(spalte)] = {{"lowest", zahl(mittel.zahl(kTiefst, spalte))},
-                                    {"highest", zahl(mittel.zahl(kHoechst, spalte))},
-                                    {"mean", zahl(mittel.zahl(kMittel, spalte))}};
+    if (mittel.text(Mittel_wert_zeile, spalte).empty()) continue;
+    json[std::to_string(spalte)] = {{"lowest", zahl(mittel.zahl(Mittel_kleinster, spalte))},
+                                    {"highest", zahl(mittel.zahl(Mittel_groesster, spalte))},
+                                    {"mean", zahl(mittel.zahl(Mittel_wert_zeile, spalte))}};
   }
   return json;
 }
@@ -118,10 +117,10 @@ void drucke_mittelwerte(const Messung& messung) {
   const Messtabelle& mittel = messung.MittelW_Spread;
   Tabelle tabelle{{"", "lowest", "highest", "mean", ""}, {}};
   for (const Hauptspalte& h : kHauptspalten) {
-    if (mittel.text(kMittel, h.spalte).empty()) continue;
-    tabelle.zeilen.push_back({h.name, anzeige(mittel.zahl(kTiefst, h.spalte)),
-                              anzeige(mittel.zahl(kHoechst, h.spalte)),
-                              anzeige(mittel.zahl(kMittel, h.spalte)), h.einheit});
+    if (mittel.text(Mittel_wert_zeile, h.spalte).empty()) continue;
+    tabelle.zeilen.push_back({h.name, anzeige(mittel.zahl(Mittel_kleinster, h.spalte)),
+                              anzeige(mittel.zahl(Mittel_groesster, h.spalte)),
+                              anzeige(mittel.zahl(Mittel_wert_zeile, h.spalte)), h.einheit});
   }
   drucke(tabelle);
 }

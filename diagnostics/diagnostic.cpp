@@ -3,6 +3,7 @@
 #include "diagnostics/familie.h"
 #include "diagnostics/kopfzeilen.h"
 #include "diagnostics/methode.h"
+#include "diagnostics/mittelwerte.h"
 #include "diagnostics/protokoll.h"
 
 namespace polarkreis {
@@ -72,7 +73,14 @@ bool DiaGnostic::Quelle_suchen() {
 }
 
 bool DiaGnostic::auswerten() {
-  if (logger.belegt() || !kern.rechenkern(m_.fortschritt)) return false;
+  return !logger.belegt() && kern.rechenkern(m_.fortschritt) && protokollieren();
+}
+
+bool DiaGnostic::kondensieren() {
+  return !logger.belegt() && MW_Bildung(messung, m_.fortschritt) && protokollieren();
+}
+
+bool DiaGnostic::protokollieren() {
   return DiaG_Protokoll(messung, m_.captions, kern.Funktion,
                         {kern.Summe_Energ, kern.Sum_zeit_messung}, m_.ablage);
 }

@@ -69,6 +69,9 @@ class DiaGnostic {
   /// asked to stop, or if the protocol could not be written (see `Ablage::letzter_fehler`).
   bool auswerten();
 
+  /// Condenses the rows as they stand, behind a run: means and protocol. False as above.
+  bool kondensieren();
+
   /// Imports, each followed by the computation of all rows. `mode` and `teil`: see `Messimport`.
   Importergebnis DiaG_import(std::string_view path, int mode, int teil = 0);
   Importergebnis CC_excel_Import(std::string_view path);
@@ -81,6 +84,7 @@ class DiaGnostic {
 
  private:
   void Spalten_beschriften();
+  bool protokollieren();
   void park_laden();
   void park_speichern();
   Importergebnis rechne_nach(Importergebnis ergebnis);

@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "diagnostics/messformat.h"
 #include "diagnostics/methode.h"
 #include "diagnostics/mittelwerte.h"
 #include "diagnostics/zeiten.h"
@@ -88,8 +89,7 @@ bool Kern::rechenkern(Fortschritt& fortschritt) {
   for (int zeile = Messtabelle::Erste; weiter && zeile <= letzte; ++zeile) {
     if (messung_.DiaSpread.text(zeile, Spalte::Zeit).empty()) break;
     const int nummer = zeile - Messtabelle::Erste + 1;
-    weiter = fortschritt.schritt(std::to_string(nummer) + " / " + std::to_string(anzahl), nummer,
-                                 anzahl);
+    weiter = fortschritt.schritt(Zaehltext(nummer, anzahl), nummer, anzahl);
     folge.naechster();
     if (weiter) Kern_Zeile(zeile);
   }

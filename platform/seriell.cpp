@@ -133,6 +133,8 @@ std::string Seriellschnittstelle::Lesen() {
   std::string text, grund = "the port is closed";
   const auto ende = std::chrono::steady_clock::now() + Laengste_Antwort;
   bool gut = leitung_ && leitung_->lies(text, grund);
+  if (gut && text.empty() && Geduld_ms > 0 && leitung_->kommt_noch(Geduld_ms))
+    gut = leitung_->lies(text, grund);
   while (gut && !text.empty() && text.size() < Groesste_Antwort &&
          std::chrono::steady_clock::now() < ende && leitung_->kommt_noch(Ruhe_ms))
     gut = leitung_->lies(text, grund);

@@ -41,9 +41,10 @@ class Seriellschnittstelle : public SeriellerPort {
   /// Why the last failed operation failed; empty if none did since the last opening.
   const std::string& Grund() const { return grund_; }
 
-  /// A reply that has begun is read until no character comes for so long (and for a second at
-  /// most); where nothing has come yet, nothing is waited for.
+  /// A reply that has begun is read until no character comes for so long, and for a second at most.
   int Ruhe_ms = 20;
+  /// How long `Lesen` waits for a reply to begin: 0 not at all, more for slow adapters.
+  int Geduld_ms = 0;
 
   void Port(int nummer) override { nummer_ = nummer; }
   void Einstellungen(std::string_view text) override { einstellungen_ = text; }

@@ -46,7 +46,7 @@ enum class Haltbarkeit { sicher, wiederholbar };
 /// stands, with either sign. The exact spelling is tried first, then any case. Reading never fails:
 /// an absent file gives empty texts. What is written is composed in memory and put in place in one
 /// step when the number is closed; on a failure the old file stays whole, the message goes to
-/// `letzter_fehler` and to the message log, and nothing else is left.
+/// `letzter_fehler` and, once while it lasts, to the message log, and nothing else is left.
 class Ablage {
  public:
   Ablage(std::string datenordner, Meldungen& meldungen);

@@ -14,4 +14,7 @@ for project in *.prj; do
   "$program" --data . --language GER point "$project" --json >/dev/null
 done
 "$program" --data . --language ENG simulate >/dev/null
-echo "First use: all sample projects calculate."
+"$program" --data . --language ENG import adc "R404A cold store.adc" --settings "logger R404A.json" --out store.fmd >/dev/null
+"$program" --data . --language ENG diagnose store.fmd --settings "logger R404A.json" --yes >/dev/null
+test -s ergDiaG.DAT
+echo "First use: all sample projects calculate, a sample measurement is judged."

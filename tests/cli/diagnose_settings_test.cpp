@@ -110,6 +110,7 @@ TEST(DiagnoseSettings, WhatDoesNotFitIsToldAndNothingIsWritten) {
       {R"({"Off_line_Check":-1})", "\"Off_line_Check\""},
       {R"({"ECO_OPT":1e300})", "\"ECO_OPT\""},
       {R"({"Hub_Volumen":""})", "\"Hub_Volumen\""},
+      {R"({"Konz_Verd":150})", "between 0 and 100"},
       {R"({"Mass_Art":5})", "must be 0 (swept volume), 77"},
       {R"({"OrbiN_spread":"x"})", "at most 7 rows"},
       {R"({"OrbiN_spread":[[],[],[],[],[],[],[],[]]})", "at most 7 rows"},

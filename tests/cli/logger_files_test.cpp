@@ -24,6 +24,7 @@ std::string adc(int zeilen, const char* p0 = "1.3") {
 Antwort logger(const Loggerordner& daten, const Stellvertreter& geraet, Loggerordner::Worte worte) {
   worte.insert(worte.begin(), "logger");
   worte.insert(worte.end(), {"--port", "1=" + geraet.geraet(), "--settings", "s.json"});
+  worte = Loggerordner::geduldig(std::move(worte));
   return daten.rufe(worte);
 }
 

@@ -20,8 +20,8 @@ Json messe(const Loggerordner& daten, const Stellvertreter& geraet) {
 TEST(LoggerPorts, TellsWhichOneAnswers) {
   const Loggerordner daten;
   const Stellvertreter geraet({"--step", "5"});
-  const Loggerordner::Worte befehl{"logger",      "ports",  "--port",
-                                   "2=/dev/null", "--port", "3=" + geraet.geraet()};
+  const Loggerordner::Worte befehl = Loggerordner::geduldig(
+      {"logger", "ports", "--port", "2=/dev/null", "--port", "3=" + geraet.geraet()});
   Loggerordner::Worte mit_json = befehl;
   mit_json.push_back("--json");
   const Antwort a = daten.rufe(mit_json);
@@ -45,8 +45,9 @@ TEST(LoggerPorts, TheHighestOneCounts) {
   const Loggerordner daten;
   daten.planen(2);
   const Stellvertreter anlage({"--step", "5"}), bad({"--bath", "20", "--step", "5"});
-  const Antwort a = daten.rufe({"logger", "run", "--port", "3=" + anlage.geraet(), "--port",
-                                "7=" + bad.geraet(), "--settings", "s.json", "--json"});
+  const Antwort a = daten.rufe(
+      Loggerordner::geduldig({"logger", "run", "--port", "3=" + anlage.geraet(), "--port",
+                              "7=" + bad.geraet(), "--settings", "s.json", "--json"}));
   ASSERT_EQ(a.status, 0) << a.fehler;
   EXPECT_NEAR(zelle(a.json(), 3, 2), 5, .1) << "the bath's pressure";
 }
@@ -192,7 +193,8 @@ TEST(LoggerRun, TheFormerWorkingCopyIsKeptBeside) {
 TEST(LoggerRun, WithoutSettingsMeasuresWhatNeedsNoRefrigerant) {
   const Loggerordner daten;
   const Stellvertreter geraet({"--step", "5"});
-  Prozess p(daten.aufruf({"logger", "run", "--port", "1=" + geraet.geraet(), "--json"}),
+  Prozess p(daten.aufruf(Loggerordner::geduldig(
+                {"logger", "run", "--port", "1=" + geraet.geraet(), "--json"})),
             daten.pfad());
   ASSERT_TRUE(p.warte_auf([&] { return daten.arbeitskopie().ganze_Zeilen >= 1; })) << p.fehler();
   p.signal(SIGINT);
