@@ -39,7 +39,7 @@ int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher);
 /// Appends in one write; the file is made if it is absent.
 int haenge_an(const std::string& pfad, std::string_view inhalt);
 /// Appends a record in one write, or nothing: on a failure the file is cut back to what it held.
-/// `sicher`: the record survives a power failure from here on.
+/// A read-only file is refused. `sicher`: the record survives a power failure from here on.
 int haenge_satz_an(const std::string& pfad, std::string_view satz, bool sicher);
 /// Removes a file, a read-only one too; a folder is refused, an absent file is no error.
 int loesche(const std::string& pfad);

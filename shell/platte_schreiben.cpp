@@ -219,6 +219,7 @@ int haenge_satz_an(const std::string& pfad, std::string_view satz, bool sicher) 
   if (!datei) return errno;
   struct stat vorher {};
   if (::fstat(datei.nummer(), &vorher) != 0) return errno;
+  if (S_ISREG(vorher.st_mode) && (vorher.st_mode & 0222) == 0) return Nur_lesbar;
   int fehler = schreib_alles(datei.nummer(), satz);
   if (fehler == 0 && sicher && ::fdatasync(datei.nummer()) != 0 && errno != EINVAL) fehler = errno;
   if (fehler != 0) {

@@ -139,7 +139,7 @@ TEST_F(Anlagenbild, SchemeIsReadFromItsText) {
 }
 
 TEST_F(Anlagenbild, SchemeOfALanguageWithoutTextsIsPlain) {
-  captions.Sprache = "XXX";
+  captions.Sprache = "ZZZ";
   captions.Captions_Laden();
   EXPECT_FALSE(Schemaart_von("anything", captions).zweistufig);
 }

@@ -347,7 +347,7 @@ TEST(KernKennzahlen, CapacityInStepsLosesFourPercent) {
 
 TEST(KernKennzahlen, WithoutCaptionsAnEmptyControlIsNotTheOneInSteps) {
   Anlage mit, ohne;
-  ohne.captions.Sprache = "XXX";
+  ohne.captions.Sprache = "ZZZ";
   ohne.captions.Captions_Laden();
   for (Anlage* d : {&mit, &ohne}) {
     d->messung.Q0 = 10;

@@ -110,7 +110,7 @@ TEST_F(Flaggen, AnUnknownFlagOrCodeChangesNothing) {
   daten.schreib("kparam.dat", kparam("ENG"));
   EXPECT_TRUE(starten());
   EXPECT_FALSE(start.Flagge_klicken("Martian"));
-  EXPECT_FALSE(start.Sprache_waehlen("XXX"));
+  EXPECT_FALSE(start.Sprache_waehlen("ZZZ"));
   EXPECT_EQ(programm.captions.Sprache, "ENG");
   EXPECT_EQ(daten.lies("kparam.dat"), kparam("ENG"));
 }
