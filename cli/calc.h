@@ -85,6 +85,8 @@ struct Operation {
 std::span<const Operation> Grundoperationen();
 std::span<const Operation> Stoffoperationen();
 std::span<const Operation> Kreisoperationen();
+std::span<const Operation> Logphoperationen();
+std::span<const Operation> Katalogoperationen();
 std::span<const Operation> Klimaoperationen();
 std::span<const Operation> Heizoperationen();
 std::span<const Operation> Soleoperationen();

@@ -16,8 +16,9 @@ Json fehlerzeile(const std::string& text) {
 
 const Operation* finde(std::string_view name) {
   for (const auto& operationen :
-       {Grundoperationen(), Stoffoperationen(), Kreisoperationen(), Klimaoperationen(),
-        Heizoperationen(), Soleoperationen(), Messoperationen(), Standoperationen()}) {
+       {Grundoperationen(), Stoffoperationen(), Kreisoperationen(), Logphoperationen(),
+        Katalogoperationen(), Klimaoperationen(), Heizoperationen(), Soleoperationen(),
+        Messoperationen(), Standoperationen()}) {
     const auto op = std::ranges::find(operationen, name, &Operation::name);
     if (op != operationen.end()) return &*op;
   }

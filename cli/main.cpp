@@ -38,6 +38,8 @@ void befehle_anmelden(CLI::App& app, Sitzung& sitzung) {
   refrigerants_anmelden(app, sitzung);
   saturation_anmelden(app, sitzung);
   cycle_anmelden(app, sitzung);
+  logph_anmelden(app, sitzung);
+  catalogue_anmelden(app, sitzung);
   diagnose_anmelden(app, sitzung);
   import_anmelden(app, sitzung);
   logger_anmelden(app, sitzung);

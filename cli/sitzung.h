@@ -64,6 +64,8 @@ void climate_anmelden(CLI::App& app, Sitzung& sitzung);
 void refrigerants_anmelden(CLI::App& app, Sitzung& sitzung);
 void saturation_anmelden(CLI::App& app, Sitzung& sitzung);
 void cycle_anmelden(CLI::App& app, Sitzung& sitzung);
+void logph_anmelden(CLI::App& app, Sitzung& sitzung);
+void catalogue_anmelden(CLI::App& app, Sitzung& sitzung);
 void diagnose_anmelden(CLI::App& app, Sitzung& sitzung);
 void import_anmelden(CLI::App& app, Sitzung& sitzung);
 void logger_anmelden(CLI::App& app, Sitzung& sitzung);
