@@ -1,0 +1,162 @@
+#include "cycle/katalog_datei.h"
+
+#include <gtest/gtest.h>
+
+#include "katalog_ordner.h"
+
+using namespace polarkreis;
+
+namespace {
+
+using Felder = Katalogdateien::Felder;
+
+TEST(Indexdatei, IsChosenByTheSearchKind) {
+  EXPECT_EQ(Indexdatei(0), "I650.DAT");
+  EXPECT_EQ(Indexdatei(100), "I650.DAT");
+  EXPECT_EQ(Indexdatei(1), "I600.DAT");
+  for (int andere : {2, 3, 50, 99, 101, -1}) EXPECT_EQ(Indexdatei(andere), "I550.DAT") << andere;
+}
+
+TEST(Katalogcode, IsSevenLettersOrDigits) {
+  for (const char* code : {"BOREALX", "borealx", "A1B2C3D"}) EXPECT_TRUE(ist_Katalogcode(code));
+  for (const char* code :
+       {"", "BOREAL", "BOREALXY", "../../x", "BORE LX", "K\xC3\xA4lteX", "BOREA.X"})
+    EXPECT_FALSE(ist_Katalogcode(code)) << code;
+}
+
+TEST(Katalogcode, NamesTheFiles) {
+  EXPECT_EQ(Bauteildatei("BOREALX"), "BOREALXN.rdm");
+  EXPECT_EQ(Listendatei("BOREALX"), "BOREALXI.rdm");
+}
+
+TEST(TypAusCode, ComesFromTheLastTwoLetters) {
+  EXPECT_EQ(Typ_aus_Code("ABCDEEX"), 1);
+  EXPECT_EQ(Typ_aus_Code("ABCDEKP"), 2);
+  EXPECT_EQ(Typ_aus_Code("ABCDEVD"), 3);
+  EXPECT_EQ(Typ_aus_Code("ABCDEKD"), 4);
+  EXPECT_EQ(Typ_aus_Code("ABCDEMV"), 7);
+  EXPECT_EQ(Typ_aus_Code("abcdevd"), 3);
+}
+
+TEST(TypAusCode, ComesFromTheFirstTwoWhereTheLastTellNothing) {
+  EXPECT_EQ(Typ_aus_Code("KABCDEF"), 5);
+  EXPECT_EQ(Typ_aus_Code("kabcdef"), 5);
+  EXPECT_EQ(Typ_aus_Code("KABCDVD"), 3);
+  EXPECT_EQ(Typ_aus_Code("KABCDEX"), 1);
+}
+
+TEST(TypAusCode, IsZeroForAnyOtherCode) {
+  for (const char* code : {"ABCDEFG", "EXABCDE", "VDKDKPX", "AKABCDE"})
+    EXPECT_EQ(Typ_aus_Code(code), 0) << code;
+}
+
+TEST(Satznummer, IsANumberFromOneOn) {
+  EXPECT_EQ(Satznummer("2"), 2);
+  EXPECT_EQ(Satznummer(" 68 "), 68);
+  EXPECT_EQ(Satznummer("2.9"), 2);
+  for (const char* text : {"", "0", "0.9", "-3", "x", "1e30", "1e999", "-1e999", "2147483648"})
+    EXPECT_EQ(Satznummer(text), 0) << text;
+}
+
+TEST(Feldzeilen, EachLineIsARow) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\",\"b, c\"\r\n\r\nd,e\n\"f\",\"\"", 2),
+            (std::vector<Felder>{{"a", "b, c"}, {"d", "e"}, {"f", ""}}));
+  EXPECT_TRUE(o.dateien.Feldzeilen("f", "", 2).empty());
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Feldzeilen, ARowMayGoOverLines) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\"\r\n\"b\"\r\n\"c\"\r\n\"d\",\"e\",\"f\"\r\n", 3),
+            (std::vector<Felder>{{"a", "b", "c"}, {"d", "e", "f"}}));
+}
+
+TEST(Feldzeilen, ARowThatLostAFieldCostsOnlyItself) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen(
+                "f.dat", "\"a\",\"b\",\"c\"\r\n\"x\",\"y\"\r\n\"d\",\"e\",\"f\"\r\n\"z\"", 3),
+            (std::vector<Felder>{{"a", "b", "c"}, {"d", "e", "f"}}));
+  EXPECT_TRUE(o.gemeldet("f.dat: the row that begins with \"x\" has 2 of 3 fields"));
+  EXPECT_TRUE(o.gemeldet("f.dat: the row that begins with \"z\" has 1 of 3 fields"));
+}
+
+TEST(Feldzeilen, AFieldTooManyIsLeftOut) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\",\"b\",\"c\"\r\n\"d\",\"e\"\r\n", 2),
+            (std::vector<Felder>{{"a", "b"}, {"d", "e"}}));
+}
+
+TEST(Katalogliste, TakesTheFirstSevenCharactersAsTheCode) {
+  Katalogordner o;
+  o.schreib("katalg.lst",
+            "\"FIRNEVD  Luftkühler\"\r\n\"BOREALX\"\r\nSKADEKD Verflüssiger, Axial\r\n");
+  const auto liste = o.dateien.Katalogliste();
+  ASSERT_EQ(liste.size(), 3U);
+  EXPECT_EQ(liste[0].code, "FIRNEVD");
+  EXPECT_EQ(liste[0].Text, "Luftkühler");
+  EXPECT_EQ(liste[1].code, "BOREALX");
+  EXPECT_EQ(liste[1].Text, "");
+  EXPECT_EQ(liste[2].code, "SKADEKD");
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Katalogliste, WhatIsNoCodeIsLeftOutAndTold) {
+  Katalogordner o;
+  o.schreib("KATALG.LST", "\"SHORT\"\r\n\"../../x\"\r\n\r\n\"BOREALX\"\r\n");
+  ASSERT_EQ(o.dateien.Katalogliste().size(), 1U);
+  EXPECT_TRUE(o.gemeldet("\"SHORT\" is no code of seven letters"));
+  EXPECT_TRUE(o.gemeldet("\"../../x\" is no code of seven letters"));
+  o.dateien.Katalogliste();
+  EXPECT_EQ(o.meldungszahl("SHORT"), 1);
+}
+
+TEST(Katalogliste, OfAMissingFileIsEmptyAndMakesNone) {
+  Katalogordner o;
+  EXPECT_TRUE(o.dateien.Katalogliste().empty());
+  EXPECT_TRUE(o.dateien.Index(0).empty());
+  EXPECT_TRUE(o.namen().empty());
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Index, HasFourFieldsARow) {
+  Katalogordner o;
+  o.schreib("I600.DAT",
+            "\"FIRNEVD\",\"Höfler\",\"Luftkühler, 4 mm\",\"2\"\r\n"
+            "\" FIRNEVD \",\" Höfler \",\"Luftkühler, 7 mm\",\"52\"\r\n");
+  const auto index = o.dateien.Index(1);
+  ASSERT_EQ(index.size(), 2U);
+  EXPECT_EQ(index[0].code, "FIRNEVD");
+  EXPECT_EQ(index[0].Hersteller, "Höfler");
+  EXPECT_EQ(index[0].Katalogtext, "Luftkühler, 4 mm");
+  EXPECT_EQ(index[0].Anfang, 2);
+  EXPECT_EQ(index[1].code, "FIRNEVD");
+  EXPECT_EQ(index[1].Hersteller, "Höfler");
+  EXPECT_EQ(index[1].Anfang, 52);
+  EXPECT_TRUE(o.dateien.Index(0).empty());
+  EXPECT_TRUE(o.dateien.Index(2).empty());
+}
+
+TEST(Index, RowsThatNameNoCatalogueAreLeftOutAndTold) {
+  Katalogordner o;
+  o.schreib(
+      "I550.DAT",
+      "\"TOOLONGX\",\"M\",\"t\",\"2\"\r\n\"SKADEKD\",\"M\"\r\n\"SKADEKD\",\"M\",\"t\",\"2\"\r\n");
+  EXPECT_EQ(o.dateien.Index(2).size(), 1U);
+  EXPECT_TRUE(o.gemeldet("I550.DAT: \"TOOLONGX\" is no code of seven letters"));
+  EXPECT_TRUE(o.gemeldet("I550.DAT: the row that begins with \"SKADEKD\" has 2 of 4 fields"));
+}
+
+TEST(Index, ARowWithoutAStartStaysAndIsTold) {
+  Katalogordner o;
+  o.schreib("I650.DAT",
+            "\"BOREALX\",\"M\",\"t\",\"0\"\r\n\"BOREALX\",\"M\",\"t\",\"1e99\"\r\n"
+            "\"BOREALX\",\"M\",\"t\",\"two\"\r\n");
+  const auto index = o.dateien.Index(100);
+  ASSERT_EQ(index.size(), 3U);
+  for (const Indexzeile& zeile : index) EXPECT_EQ(zeile.Anfang, 0);
+  for (const char* text : {"\"0\"", "\"1e99\"", "\"two\""})
+    EXPECT_TRUE(o.gemeldet(std::string(text) + " is no record to begin with")) << text;
+}
+
+}  // namespace
