@@ -50,7 +50,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w) {
   Programm& p = sitzung.programm();
   texte_pruefen(p, p.captions.Sprache);
   land_waehlen(p.klima, w.land);
-  stadt_waehlen(p.klima, w.stadt);
+  klimaluecken_melden(p.klima, stadt_waehlen(p.klima, w.stadt));
   JahresGang& gang = p.jahresgang;
   gang.Spitze_Option = w.sommer;
   gang.Sockel_Option = w.winter;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "konsole.h"
 #include "shell/text.h"
 #include "sitzung.h"
 
@@ -59,6 +60,15 @@ std::string stadt_waehlen(Klima& klima, const std::string& stadt) {
                   " \"polarkreis-cli climate cities COUNTRY\" lists them all.");
   klima.Stadt = *treffer;
   return *treffer;
+}
+
+void klimaluecken_melden(Klima& klima, const std::string& stadt) {
+  const auto satz = klima.satz(stadt);
+  if (!satz)
+    melde("The climate tables don't hold that city: the course counts with figures of 0.");
+  else if (!satz->vollstaendig())
+    melde("The climate table doesn't hold every figure of " + stadt +
+          ": the course counts the missing ones as 0. Complete the table.");
 }
 
 }  // namespace polarkreis::cli

@@ -6,6 +6,7 @@
 #include "ergebnis_json.h"
 #include "konsole.h"
 #include "optionen.h"
+#include "ort.h"
 #include "platform/dateiwache.h"
 #include "projektwahl.h"
 #include "shell/text.h"
@@ -35,8 +36,7 @@ bool kurs_bereit(Programm& p, const Wuensche& w, Terminalfortschritt& fortschrit
   fortschritt.loeschen();
   melde("The annual course (JG_Temp.dat) was made for " + p.projekt.Stadt + ", " + p.projekt.Land +
         ", with the default options.");
-  if (!p.klima.satz(p.projekt.Stadt))
-    melde("The climate tables don't hold that city: the course counts with figures of 0.");
+  klimaluecken_melden(p.klima, p.projekt.Stadt);
   return true;
 }
 

@@ -77,7 +77,7 @@ class JahresGang {
   /// course as there and writes "JG_Temp.dat"; false if it could not be written.
   bool OKbutt();
 
-  /// Columns 2 and 3 for the city in `OrteListe`; a city that isn't found counts with figures of 0.
+  /// Columns 2 and 3 for the city in `OrteListe`; a figure that its table doesn't give counts as 0.
   /// The southern hemisphere is not shifted.
   void Temperaturverlauf_rechnen();
   /// Columns 4 and 5 from the application's profile file, which is first written with its default

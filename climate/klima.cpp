@@ -1,6 +1,7 @@
 #include "climate/klima.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "climate/lesen.h"
 #include "shell/items.h"
@@ -52,39 +53,68 @@ bool Klima::gleiches_land(std::string_view a, std::string_view b) {
   return gleich(land_anzeige(getrimmt(a)), land_anzeige(getrimmt(b)));
 }
 
-Klimasatz Klima::satz_aus(const std::array<std::string, Stadtfelder>& felder) {
+bool Klimasatz::vollstaendig() const {
+  const double zahlen[] = {T_Sommer_hoch,
+                           Feuchte_Sommer_hoch,
+                           T_Diff_Tag_Nacht,
+                           T_Sommer_tief,
+                           Feuchte_Sommer_tief,
+                           T_Winter_hoch,
+                           T_Winter_tief,
+                           Hoehe,
+                           Breite};
+  return std::ranges::none_of(zahlen, ist_leer);
+}
+
+Klimasatz Klima::satz_aus(const Stadttexte& felder) {
+  const auto zahl = [&](Feld feld) { return felder[feld] ? Wert(*felder[feld]) : leer; };
   Klimasatz satz;
-  satz.T_Sommer_hoch = Wert(felder[F_T_Sommer_hoch]);
-  satz.Feuchte_Sommer_hoch = Wert(felder[F_Feuchte_Sommer_hoch]);
-  satz.T_Diff_Tag_Nacht = Wert(felder[F_T_Diff]);
-  satz.T_Sommer_tief = Wert(felder[F_T_Sommer_tief]);
-  satz.Feuchte_Sommer_tief = Wert(felder[F_Feuchte_Sommer_tief]);
-  satz.T_Winter_hoch = Wert(felder[F_T_Winter_hoch]);
-  satz.T_Winter_tief = Wert(felder[F_T_Winter_tief]);
-  satz.Hoehe = Wert(felder[F_Hoehe]);
-  std::string_view breite = links_getrimmt(felder[F_Breite]);
+  satz.T_Sommer_hoch = zahl(F_T_Sommer_hoch);
+  satz.Feuchte_Sommer_hoch = zahl(F_Feuchte_Sommer_hoch);
+  satz.T_Diff_Tag_Nacht = zahl(F_T_Diff);
+  satz.T_Sommer_tief = zahl(F_T_Sommer_tief);
+  satz.Feuchte_Sommer_tief = zahl(F_Feuchte_Sommer_tief);
+  satz.T_Winter_hoch = zahl(F_T_Winter_hoch);
+  satz.T_Winter_tief = zahl(F_T_Winter_tief);
+  satz.Hoehe = zahl(F_Hoehe);
+  if (!felder[F_Breite]) return satz;
+  std::string_view breite = links_getrimmt(*felder[F_Breite]);
   satz.suedlich = breite.starts_with('S') || breite.starts_with('s');
   if (satz.suedlich) breite.remove_prefix(1);
   satz.Breite = Wert(breite);
   return satz;
 }
 
-Klima::Stadttabelle Klima::zerlegt(std::string_view inhalt) {
+Klima::Stadttabelle Klima::zerlegt(std::string_view inhalt, std::string_view datei) {
   Stadttabelle tabelle;
   ItemLeser leser(inhalt);
   while (!leser.ende() && tabelle.size() < Staedtezahl) {
-    std::array<std::string, Stadtfelder> felder;
-    for (std::string& feld : felder) feld = leser.lies();
-    tabelle.push_back({std::string(getrimmt(felder[F_Stadt])), satz_aus(felder)});
+    Stadttexte felder;
+    for (auto& feld : felder) {
+      std::string text;
+      if (leser.lies(text)) feld = std::move(text);
+    }
+    tabelle.push_back(
+        {std::string(getrimmt(felder[F_Stadt].value_or(std::string()))), satz_aus(felder)});
+    if (!felder.back() && !tabelle.back().name.empty())
+      melde_einmal(datei, "ends within the record of " + tabelle.back().name +
+                              ": the figures that are missing are empty");
   }
   return tabelle;
+}
+
+/// A year asks for its city hundreds of times: what is told of a table is told until it is another.
+void Klima::melde_einmal(std::string_view datei, const std::string& text) {
+  if (gemeldet_ == text) return;
+  gemeldet_ = text;
+  ablage_.meldungen().melde("Klima_Wert", datei, text);
 }
 
 const Klima::Stadttabelle& Klima::tabelle() {
   const std::string datei = Klima_Dateiname(Land);
   return kopie_.hol(ablage_, datei, [&](std::optional<std::string>&& inhalt) {
     if (!inhalt) leer_anlegen(ablage_, datei);
-    return zerlegt(inhalt.value_or(std::string()));
+    return zerlegt(inhalt.value_or(std::string()), datei);
   });
 }
 
@@ -101,6 +131,7 @@ std::optional<Klimasatz> Klima::satz(std::string_view stadt) {
 }
 
 double Klima::Feuchte_Monat(double F) const {
+  if (ist_leer(F)) F = 0;
   // Share of the way from the stored summer figure to the winter's 80 %, January first.
   static constexpr std::array<double, 12> Anteil{1, .86, .67, .5, .34, .17,
                                                  0, .17, .34, .5, .67, .86};
@@ -119,7 +150,7 @@ double Klima::Klima_Wert(std::string_view stadt, int selektor) {
   const Stadt_mit_Satz* gefunden = suche(stadt);
   const Klimawahl wahl{selektor};
   if (wahl == Klimawahl::Feuchte_Monat)
-    return Feuchte_Monat(gefunden ? gefunden->satz.Feuchte_Sommer_hoch : 0);
+    return Feuchte_Monat(gefunden ? gefunden->satz.Feuchte_Sommer_hoch : leer);
   const Klimasatz satz = gefunden ? gefunden->satz : Klimasatz{};
   switch (wahl) {
     case Klimawahl::T_Sommer_hoch:

@@ -12,7 +12,8 @@
 
 namespace polarkreis {
 
-/// The nine climate figures of a city; empty (NaN) where the table gives none.
+/// The nine climate figures of a city; empty (NaN) where the table gives none. An item without a
+/// number is 0, but a figure behind the end of a file that was cut off is empty.
 struct Klimasatz {
   double T_Sommer_hoch = leer;        ///< upper summer temperature, °C
   double Feuchte_Sommer_hoch = leer;  ///< relative humidity that belongs to it, %
@@ -24,6 +25,9 @@ struct Klimasatz {
   double Hoehe = leer;                ///< height above sea level, m
   double Breite = leer;               ///< latitude without its S, degrees
   bool suedlich = false;              ///< the latitude carried an S; nothing acts on it
+
+  /// False where one of the figures is empty: what is worked out from them counts it as 0.
+  bool vollstaendig() const;
 };
 
 /// Selectors of `Klima_Wert`.
@@ -57,7 +61,7 @@ class Klima {
   static std::string Klima_Dateiname(std::string& land);
   /// One number of the city out of the file of `Land` (see `Klimawahl`), or the humidity of the
   /// current month in % (selector 8). Empty for an unknown selector or month and for a city that
-  /// isn't found; only the humidity takes 0 % as that city's summer figure. `Land` is padded.
+  /// isn't found; only the humidity takes 0 % as an empty summer figure. `Land` is padded.
   double Klima_Wert(std::string_view stadt, int selektor);
   /// All figures of the city, or nothing if the table doesn't hold it. Names are compared trimmed,
   /// with case; the first of equal names counts.
@@ -81,15 +85,20 @@ class Klima {
   };
   using Stadttabelle = std::vector<Stadt_mit_Satz>;
 
-  static Stadttabelle zerlegt(std::string_view inhalt);
-  static Klimasatz satz_aus(const std::array<std::string, Stadtfelder>& felder);
+  /// The texts of a record; those behind the file's end are none.
+  using Stadttexte = std::array<std::optional<std::string>, Stadtfelder>;
+
+  Stadttabelle zerlegt(std::string_view inhalt, std::string_view datei);
+  static Klimasatz satz_aus(const Stadttexte& felder);
   const Stadttabelle& tabelle();
   const Stadt_mit_Satz* suche(std::string_view stadt);
   double Feuchte_Monat(double F) const;
+  void melde_einmal(std::string_view datei, const std::string& text);
 
   Ablage& ablage_;
   const Captions& captions_;
   Dateikopie<Stadttabelle> kopie_;
+  std::string gemeldet_;  // what was told last
 };
 
 /// The editor of the climate tables: 138 countries, 50 cities with their ten texts.

@@ -99,6 +99,31 @@ TEST(Course, TheRunTakesItAsItStands) {
   EXPECT_EQ(daten.lies("JG_Temp.dat"), gang);
 }
 
+TEST(Course, ARecordThatIsCutOffIsTold) {
+  const Datenkopie daten;
+  daten.schreib("France__.DAT", "\"Paris\"\r\n\"32\"\r\n");
+  const Antwort a =
+      daten.rufe({"course", "--country", "France", "--city", "Paris", "--application", "1"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_TRUE(hat(a.fehler, "every figure of Paris")) << a.fehler;
+  // Upper summer temperature 32 in July, 0 in winter.
+  EXPECT_TRUE(hat(daten.lies("JG_Temp.dat"), "\"July\"\r\n\"32\"\r\n")) << a.ausgabe;
+  EXPECT_EQ(daten.rufe({"climate", "value", "France", "Paris", "2"}).status, 1);
+}
+
+TEST(Course, AYearInSuchACityHasFiguresAndIsTold) {
+  const Datenkopie daten;
+  daten.schreib("AC_CITY.DAT", "\"Cologne\"\r\n\"32\"\r\n");
+  const Antwort a = daten.rufe({"--verbose", "simulate", "--json"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_TRUE(hat(a.fehler, "every figure of Cologne")) << a.fehler;
+  EXPECT_TRUE(hat(a.fehler, "ends within the record of Cologne")) << a.fehler;
+  EXPECT_GT(a.json()["SCOP"].get<double>(), 1);
+  EXPECT_GT(a.json()["kWstunden"].get<double>(), 0);
+  for (const char* name : {"LeistZ", "BetrKo", "co2consum", "E_Verd", "E_VFl_Luefter", "COP_min"})
+    EXPECT_TRUE(a.json()[name].is_number()) << name;
+}
+
 TEST(Course, AnUnknownPlaceWritesNothing) {
   const Datenkopie daten;
   EXPECT_EQ(

@@ -159,11 +159,28 @@ TEST_F(KlimaWert, MissingFileHoldsNoCity) {
   EXPECT_EQ(desk.ablage.Dateigroesse("Atlantis.DAT"), 0);
 }
 
-TEST_F(KlimaWert, CutLastRecordGivesZeros) {
-  desk.folder.schreib("Spain___.DAT", quoted_lines({"Probe", "32", "40"}));
+TEST_F(KlimaWert, FiguresBehindTheEndOfACutFileAreEmptyAndTold) {
+  desk.folder.schreib("Spain___.DAT", quoted_lines({"Probe", "32", "", "10"}));
   EXPECT_EQ(klima.Klima_Wert("Probe", 1), 32);
-  EXPECT_EQ(klima.Klima_Wert("Probe", 3), 0);
-  EXPECT_EQ(klima.Klima_Wert("Probe", 4), 0);
+  EXPECT_EQ(klima.satz("Probe")->Feuchte_Sommer_hoch, 0);
+  EXPECT_EQ(klima.Klima_Wert("Probe", 3), 10);
+  for (const int selector : {2, 4, 5, 6, 7, 9})
+    EXPECT_TRUE(ist_leer(klima.Klima_Wert("Probe", selector))) << selector;
+  EXPECT_FALSE(klima.satz("Probe")->vollstaendig());
+  ASSERT_EQ(desk.log.zeilen().size(), 1u);
+  EXPECT_NE(desk.log.zeilen()[0].find("Spain___.DAT"), std::string::npos);
+  EXPECT_NE(desk.log.zeilen()[0].find("record of Probe"), std::string::npos);
+}
+
+TEST_F(KlimaWert, CutRecordWithoutASummerHumidityHasTheMonthsOnly) {
+  desk.folder.schreib("Spain___.DAT", quoted_lines({"Probe", "32"}));
+  EXPECT_EQ(humidity("Probe"), humidity("Nirgends"));
+}
+
+TEST_F(KlimaWert, WholeRecordsAreComplete) {
+  EXPECT_TRUE(klima.satz("Probe")->vollstaendig());
+  EXPECT_TRUE(klima.satz("Rand")->vollstaendig());
+  EXPECT_TRUE(desk.log.zeilen().empty());
 }
 
 TEST_F(KlimaWert, RecordBehindTheFiftiethIsNotRead) {
