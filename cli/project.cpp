@@ -60,13 +60,11 @@ void speichern(Sitzung& sitzung, const Wuensche& w) {
   Projektdaten& projekt = projekt_laden(sitzung, {});
   if (!w.name.empty()) projekt.ProjektNam = w.name;
   if (!w.beschreibung.empty()) projekt.ProBeschr = w.beschreibung;
-  projekt.Projektordner = ordner;
   projekt.Dateiname_aktuell = pfad.substr(ordner.size());
-  ProjLaden browser(p.ablage, p.captions, p.dialog);
-  if (ProjSpeich(projekt, browser, w.tag) == Speicherung::gespeichert)
+  if (projekt.Projekt_Speichern(w.tag, ordner) && park_sichern(p.ablage, w.tag, pfad))
     gespeichert(pfad);
   else
-    sitzung.fehler("The project could not be saved as a whole.");
+    sitzung.fehler(grund(p.ablage, "The project could not be saved as a whole."));
 }
 
 // Load module or compressor tool: only their own part comes back to the data folder.

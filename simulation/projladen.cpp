@@ -45,6 +45,23 @@ std::string parkdatei_von(std::string_view projektdatei) {
   return Ordner_von(projektdatei) + std::string(endung ? name.substr(0, punkt) : name) + ".VDD";
 }
 
+bool kopieren(Ablage& ablage, std::string_view von, std::string_view nach) {
+  std::string bytes;
+  return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes);
+}
+
+using Parkweg = bool (*)(Ablage&, std::string_view tag, std::string_view projektdatei);
+
+/// Stores the form under its file name, and its park by `park`.
+bool ablegen(Projektdaten& form, std::string_view tag, Parkweg park) {
+  form.Projektname_aktuell = form.ProjektNam;
+  if (form.Projekt_Speichern(tag, form.Projektordner) &&
+      park(form.ablage, tag, form.Projektordner + form.Dateiname_aktuell))
+    return true;
+  form.dialog.zeige(form.ablage.letzter_fehler(), Titel, Symbol::fehler);
+  return false;
+}
+
 }  // namespace
 
 void ProjLaden::oeffnen(Browsermodus modus, std::string_view tag, std::string_view ordner) {
@@ -145,14 +162,17 @@ std::string ProjLaden::projektdatei() const {
 }
 
 bool Datei_umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
-  std::string bytes;
-  return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes) &&
-         ablage.Datei_Loeschen(von);
+  return kopieren(ablage, von, nach) && ablage.Datei_Loeschen(von);
 }
 
 bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
   if (!Modul_mit_Park(tag) || !ablage.vorhanden(Parkdatei)) return true;
   return Datei_umbenennen(ablage, Parkdatei, parkdatei_von(projektdatei));
+}
+
+bool park_kopieren(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
+  if (!Modul_mit_Park(tag) || !ablage.vorhanden(Parkdatei)) return true;
+  return kopieren(ablage, Parkdatei, parkdatei_von(projektdatei));
 }
 
 bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
@@ -171,13 +191,7 @@ Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view 
     browser.oeffnen(Browsermodus::speichern, tag, form.Projektordner);
     return Speicherung::Name_noetig;
   }
-  form.Projektname_aktuell = form.ProjektNam;
-  const bool gespeichert =
-      form.Projekt_Speichern(tag, form.Projektordner) &&
-      park_sichern(form.ablage, tag, form.Projektordner + form.Dateiname_aktuell);
-  if (gespeichert) return Speicherung::gespeichert;
-  form.dialog.zeige(form.ablage.letzter_fehler(), Titel, Symbol::fehler);
-  return Speicherung::misslungen;
+  return ablegen(form, tag, park_kopieren) ? Speicherung::gespeichert : Speicherung::misslungen;
 }
 
 void ProjLad(const Projektdaten& form, ProjLaden& browser, std::string_view tag) {
@@ -206,7 +220,7 @@ bool Browser_bestaetigen(Projektdaten& form, ProjLaden& browser) {
   form.ProBeschr = browser.ProBeschr;
   form.Projektordner = Ordner_von(datei);
   form.Dateiname_aktuell = browser.Dateiname;
-  return ProjSpeich(form, browser, browser.tag()) == Speicherung::gespeichert;
+  return ablegen(form, browser.tag(), park_sichern);
 }
 
 bool Tag_passt(std::string_view tag, std::string_view modul) {

@@ -98,7 +98,8 @@ enum class Speicherung { gespeichert, misslungen, Name_noetig };
 
 /// The save button: with a file name that is blank or ".PRJ" the browser is opened in mode 2 on the
 /// form's project folder, and nothing is saved yet; otherwise name and description are taken over
-/// and the project is stored at once, with its park where the module has one.
+/// and the project is stored at once, with a copy of its park where the module has one: the project
+/// stays open, and the park with it.
 Speicherung ProjSpeich(Projektdaten& form, ProjLaden& browser, std::string_view tag);
 
 /// True if a project file with that tag belongs to the module. The old files of "KOMP" and "VERB"
@@ -110,8 +111,8 @@ void ProjLad(const Projektdaten& form, ProjLaden& browser, std::string_view tag)
 void PrLoesch(const Projektdaten& form, ProjLaden& browser, std::string_view tag);
 /// Confirms the browser for the form. Opening: the project is read, its heading's name and
 /// description go to the form, and the numbers are derived. Saving: the form takes name,
-/// description and file over and is stored, with its park where the module has one. Deleting: the
-/// file is removed. False, and the reason shown in a box, if that fails.
+/// description and file over and is stored, and its park is put away where the module has one.
+/// Deleting: the file is removed. False, and the reason shown in a box, if that fails.
 bool Browser_bestaetigen(Projektdaten& form, ProjLaden& browser);
 
 /// Gives a file another name, in one folder or another, without ever leaving less than one whole
@@ -130,10 +131,13 @@ std::string Ordner_von(std::string_view datei);
 
 /// True for the modules whose projects carry a compressor park, in any case.
 bool Modul_mit_Park(std::string_view tag);
-/// Renames "VerDpark.dat" of the data folder to `<name>.VDD` beside the project file, after a save,
-/// and back, after opening. Nothing is done for a module without a park, or where there is none.
-/// False if a file can't be written or removed: the park then still stands where it was.
+/// Renames "VerDpark.dat" of the data folder to `<name>.VDD` beside the project file, when the
+/// project is saved away, and back, after opening. Nothing is done for a module without a park, or
+/// where there is none. False if a file can't be written or removed: the park then still stands
+/// where it was.
 bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
+/// The same for a project that stays open: the park stays, and `<name>.VDD` is a copy of it.
+bool park_kopieren(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
 bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
 
 }  // namespace polarkreis

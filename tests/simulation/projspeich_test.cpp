@@ -95,10 +95,44 @@ TEST_F(ProjSpeichKnopf, TellsAFailureAndKeepsThePark) {
   EXPECT_EQ(daten.lies("VerDpark.dat"), "park");
 }
 
-TEST_F(ProjSpeichKnopf, PutsTheParkAwayWithAProjectThatCarriesOne) {
+TEST_F(ProjSpeichKnopf, LeavesTheParkWithTheProjectThatStaysOpen) {
   daten.schreib("VerDpark.dat", "park");
   form.Dateiname_aktuell = "dairy.prj";
-  EXPECT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::gespeichert);
+  for (const char* park : {"park", "more compressors"}) {
+    daten.schreib("VerDpark.dat", park);
+    EXPECT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::gespeichert);
+    EXPECT_EQ(daten.lies("VerDpark.dat"), park);
+    EXPECT_EQ(projekte.lies("dairy.VDD"), park);
+  }
+}
+
+TEST_F(ProjSpeichKnopf, StoresNoParkWithAProjectOfTheSimulation) {
+  daten.schreib("VerDpark.dat", "park");
+  form.Dateiname_aktuell = "dairy.prj";
+  EXPECT_EQ(ProjSpeich(form, browser, "SIM_PRO"), Speicherung::gespeichert);
+  EXPECT_EQ(daten.lies("VerDpark.dat"), "park");
+  EXPECT_FALSE(projekte.da("dairy.VDD"));
+}
+
+TEST_F(ProjSpeichKnopf, AnotherProjectsParkTakesThePlaceOfASavedOneAndLosesNothing) {
+  projekte.schreib("brewery.prj", "\"Brewery\",\"\",\"\",\"KOMP\"\r\n\"R717\"\r\n");
+  projekte.schreib("brewery.VDD", "its park");
+  daten.schreib("VerDpark.dat", "park");
+  form.Dateiname_aktuell = "dairy.prj";
+  ASSERT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::gespeichert);
+  ProjLad(form, browser, "KOMP");
+  browser.waehlen(0);
+  ASSERT_TRUE(Browser_bestaetigen(form, browser));
+  EXPECT_EQ(daten.lies("VerDpark.dat"), "its park");
+  EXPECT_EQ(projekte.lies("dairy.VDD"), "park");
+}
+
+TEST_F(ProjSpeichKnopf, TheBrowserPutsTheParkAwayWithTheProjectThatItSaves) {
+  daten.schreib("VerDpark.dat", "park");
+  ASSERT_EQ(ProjSpeich(form, browser, "KOMP"), Speicherung::Name_noetig);
+  EXPECT_EQ(daten.lies("VerDpark.dat"), "park");
+  browser.Dateiname = "dairy";
+  ASSERT_TRUE(Browser_bestaetigen(form, browser));
   EXPECT_EQ(projekte.lies("dairy.VDD"), "park");
   EXPECT_FALSE(daten.da("VerDpark.dat"));
 }
