@@ -10,7 +10,7 @@
 #include "climate/jahresgang.h"
 #include "climate/klima.h"
 #include "climate/wrg.h"
-#include "cycle/kreis.h"
+#include "cycle/logp_h.h"
 #include "diagnostics/kern.h"
 #include "refrigerant/kaeltemittel.h"
 #include "refrigerant/sole.h"
@@ -28,6 +28,7 @@ struct Rechenstand {
   Captions& captions;
   Kaeltemittel km;
   Kreis kreis;
+  logp_H logph;
   Klima klima;
   JahresGang jahresgang;
   WRG wrg;

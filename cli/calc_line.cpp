@@ -58,6 +58,7 @@ Rechenstand::Rechenstand(Ablage& dateien, Captions& texte)
       captions(texte),
       km(dateien),
       kreis(km),
+      logph(kreis),
       klima(dateien, texte),
       jahresgang(dateien, texte, klima),
       wrg(dateien, texte),

@@ -14,7 +14,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr double Offener_Eingang = -90;      // °C; a sensor below it is none
 constexpr double Kleinster_Strom = 0.1;      // A; at or below it a phase carries nothing
 constexpr double Kleinste_Spannung = 10;     // V
 constexpr double Frostschutz_ueblich = -15;  // °C
@@ -240,7 +239,7 @@ void Kern::ueberhitzung() {
 }
 
 bool Kern::fuehler_gueltig() const {
-  return !(w_.t_Exp < Offener_Eingang || w_.t_SL < Offener_Eingang || w_.t_liq < Offener_Eingang);
+  return !(w_.t_Exp < Kein_Fuehler || w_.t_SL < Kein_Fuehler || w_.t_liq < Kein_Fuehler);
 }
 
 void Kern::unterkuehlung() {

@@ -16,6 +16,12 @@ namespace polarkreis {
 
 /// What makes a gauge pressure absolute, in bar: fixed, whatever the weather.
 inline constexpr double Atmosphaere = 1.013;
+/// The same for the pressures between two stages, and the lowest middle pressure in bar absolute:
+/// below it there is none.
+inline constexpr double Atmosphaere_Stufe = 1;
+inline constexpr double Kleinste_Stufe = 1.3;
+/// °C; a sensor below it is none.
+inline constexpr double Kein_Fuehler = -90;
 
 /// What the kernel reads and works out of a row beside the refrigerant state; each value stands
 /// until a later row sets it anew. Pressures in bar absolute, temperatures in °C, powers in kW.

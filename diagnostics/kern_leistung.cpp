@@ -8,8 +8,6 @@ namespace polarkreis {
 
 namespace {
 
-constexpr double Atmosphaere_Stufe = 1;  // bar, of the pressures between two stages
-constexpr double Kleinste_Stufe = 1.3;   // bar; a middle pressure below it is none
 constexpr double Groesse_unbekannt = 5;  // kW
 constexpr double Nullpunkt = 273.15;     // K
 constexpr double Groesster_Wirkungsgrad = 1.67;

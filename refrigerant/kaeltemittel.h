@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "refrigerant/co2_tabelle.h"
 #include "refrigerant/kmzustand.h"
@@ -41,6 +42,11 @@ class Kaeltemittel {
   /// True if the table of the current designation (for R744 both tables) has at least one readable
   /// row.
   bool KM_Tabelle_da();
+  /// The rows of the current designation's table, as read; empty for an unknown designation. Valid
+  /// until the next call of this object.
+  const std::vector<SatZeile>& Tabellenzeilen();
+  /// The superheated and supercritical states of R744, as read; valid as above.
+  const std::vector<CO2Zeile>& CO2_Zeilen() { return co2_daten().zeilen; }
   /// R744 and CO2.
   bool ist_CO2() const;
   /// True if the designation has this table file: one test for all aliases. ISC_49 shares R413A's.
@@ -102,6 +108,7 @@ class Kaeltemittel {
   mutable const KMEintrag* gefunden_ = nullptr;
   Dateikopie<SatTabelle> tabelle_;
   Dateikopie<CO2Daten> co2_;
+  const std::vector<SatZeile> ohne_zeilen_;
   std::string leere_gemeldet_;  // the empty table that was told last
   const std::string co2_datei_ = "CO2_sh01.dat";
 };

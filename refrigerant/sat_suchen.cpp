@@ -66,6 +66,10 @@ bool Kaeltemittel::KM_Tabelle_da() {
   return !ist_CO2() || !co2_daten().zeilen.empty();
 }
 
+const std::vector<SatZeile>& Kaeltemittel::Tabellenzeilen() {
+  return KM_Datei() != 0 ? tabelle(z.RefFile).zeilen : ohne_zeilen_;
+}
+
 SatTreffer Kaeltemittel::suche(double key, int mode) {
   z.SatGeladen = 0;
   z.SatGefunden = 0;

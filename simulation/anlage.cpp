@@ -179,6 +179,10 @@ double dT_Last(const Anlage& anlage, double last_prozent, double dt_auslegung, i
                     : dT_Verfluessiger(anlage, last, dt_auslegung);
 }
 
+double t0_wirksam(const Anlage& a, double last_prozent) {
+  return a.t0 + a.dt_Verd - dT_Last(a, last_prozent, a.dt_Verd, 1, a.t0);
+}
+
 double Winter_dT(const Anlage& anlage, double tc) {
   const double t_min = anlage.Winter_frei ? anlage.tmin_gemerkt : anlage.tc_min;
   if (!(tc > t_min)) return 0;

@@ -63,6 +63,9 @@ Anlage Anlage_von(const Projektdaten& projekt);
 double dT_Last(const Anlage& anlage, double last_prozent, double dt_auslegung, int modus,
                double t0);
 
+/// Evaporating temperature at a load in percent, °C: a load that needs less difference lifts it.
+double t0_wirksam(const Anlage& anlage, double last_prozent);
+
 /// Reduction of the condensing temperature `tc` [°C] in the colder season, K.
 double Winter_dT(const Anlage& anlage, double tc);
 

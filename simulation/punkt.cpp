@@ -42,7 +42,7 @@ void Punkt::vorbereiten(const Anlage& a, int modus, double last_prozent) {
   if (!a.ParaL_Check) w_.t_d_flash = leer;
   w_.dt_Winter = modus == 3 ? Winter_dT(a, a.Tc) : 0;
   w_.superheat = a.ableitung.Ueberhitzung;
-  setze(w_.t0_eff, a.t0 + a.dt_Verd - dT_Last(a, last_prozent, a.dt_Verd, 1, a.t0));
+  setze(w_.t0_eff, t0_wirksam(a, last_prozent));
   setze(w_.tc_eff, a.Tc + a.ableitung.Wartung_dT - w_.dt_Winter);
 }
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace polarkreis {
+
+/// The balance of one component: what enters and what leaves it by the state points and flows of
+/// the cycle. The stated formulas are fitted, so that not every balance closes; the rest shows by
+/// how much.
+struct Bilanz {
+  enum class Art { Energie, Masse };
+  std::string_view Bauteil;  ///< such as "evaporator"
+  Art Groesse = Art::Energie;
+  double zu = 0, ab = 0;  ///< kW, or kg/s
+
+  double Rest() const { return zu - ab; }
+  /// What enters leaves again, but for the last digits of the numbers.
+  bool schliesst() const;
+};
+
+}  // namespace polarkreis

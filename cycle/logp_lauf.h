@@ -1,0 +1,90 @@
+#pragma once
+
+#include "cycle/logp_h.h"
+
+namespace polarkreis {
+
+/// One calculation of the log p-h analysis: its steps in their order, and what one leaves for the
+/// next. Temperatures in °C, pressures in bar absolute, enthalpies in kJ/kg.
+class LogpLauf {
+ public:
+  LogpLauf(Kreis& kreis_der_Form, const logp_H& form);
+  ~LogpLauf();  ///< puts the settings of the cycle back
+  LogpLauf(const LogpLauf&) = delete;
+  LogpLauf& operator=(const LogpLauf&) = delete;
+
+  /// Runs the steps; what stands in the way, or nothing.
+  Hindernis rechne();
+
+  /// Temperature in K of the liquid that is throttled into the evaporator.
+  double T_liq() const;
+
+  /// A state of the refrigerant that a path begins or ends with.
+  struct Ort {
+    double t = leer, h = leer, rho = leer;
+  };
+
+  const logp_H& f;
+  Kreis& kreis;
+  Kaeltemittel& km;
+  KMZustand& z;
+
+  bool gestuft = false, Economiser = false, gemessen = false;
+  bool Gemisch = false;    ///< the two lines of the refrigerant differ in pressure
+  double t_s_ohne = leer;  ///< compressor inlet without internal heat exchanger
+  double dT_sh = 0, dT_liquid = 0;
+  double dT_sc = 0;    ///< behind the condenser
+  double u = 0;        ///< by the economiser
+  double q = leer;     ///< enthalpy difference of the point before the internal heat exchanger
+  double h_lc = leer;  ///< liquid at the end of condensation
+  KMZustand haupt;     ///< the whole pressure range, with what the heat exchanger changed
+  KMZustand nieder;    ///< what the evaporator works at: the low stage, or the same
+  KMZustand hoch;      ///< the high stage, or the flash gas' own compressor
+  Ort Saug;            ///< where the first compression begins
+  Ort Ende1;           ///< where it ends
+  Ort Dampf;           ///< vapour that joins at the intermediate pressure
+  Ort Mischung;        ///< inlet of the high stage, or of the flash gas' compressor
+  Ort Ende2;           ///< where the second compression ends
+  logp_H::Ergebnis e;
+
+ private:
+  // The steps in their order.
+  bool pruefen();
+  void vorgeben();
+  bool zwischendruck();
+  void hauptpunkt();
+  void innerer_WT();
+  void zwischenstufe();
+  void verdichtung();
+  void abschliessen();
+
+  // Parts of them.
+  double p_m_Regel() const;
+  void einstufig();
+  void unterste_Stufe();
+  void zweite_Stufe();
+  void Flashgas_in_Saug();
+  void Flashgas_eigen();
+  double Leistung(const Ort& ein, double p_s, double p_d, double m, double t_d, int mode);
+  Ort Ende_auf(double p_s, double p_d, double t_ein);
+  Ort Hochdruckende(double t_d);
+  void leitungen();
+
+  const std::string modul_davor_;
+  const int ECO_OPT_davor_;
+  const double Leistung_davor_;
+};
+
+/// Pressures of a blend's evaporator and condenser lie between the lines: what both lines hold at
+/// such a pressure.
+struct Saettigung {
+  double t_b = leer, t_d = leer;      ///< bubble and dew temperature, °C
+  double h_l = leer, h_v = leer;      ///< kJ/kg
+  double rho_l = leer, rho_v = leer;  ///< kg/m³
+};
+Saettigung Saettigung_bei(Kaeltemittel& km, double p);
+
+Zustandspunkte Punkte_von(const LogpLauf& lauf);
+std::vector<Bilanz> Bilanzen_von(const LogpLauf& lauf);
+
+}  // namespace polarkreis
