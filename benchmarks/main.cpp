@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "diagram.h"
 #include "measurement.h"
 #include "plant.h"
 
@@ -142,6 +143,7 @@ bool tabelle(std::map<std::string, double>& ms) {
           "ratio " + text(verhaeltnis, ">= 50"), verhaeltnis >= 50);
     alles = alles && verhaeltnis >= 50;
   }
+  for (const Diagrammfall& fall : Diagrammfaelle) pruefe(fall.name, ms[fall.name], "ms", 1);
   pruefe("measurement: load and evaluate 8640 rows", ms["auswerten"], "ms", 500);
   pruefe("live sample (parse, kernel, append) without the sync", ms["proben"] / kProben, "ms", 2);
   zeile("  the same with the row synced to the disk", text(ms["proben auf Platte"] / kProben, "ms"),
@@ -194,6 +196,13 @@ int laufen(int argc, char** argv) {
         benchmark::DoNotOptimize(r134a.km.z.h_v0);
       },
       11);
+  Programm& diagramme = laeufe.front()->programm();
+  for (const Diagrammfall& fall : Diagrammfaelle) {
+    gleich = Diagramm_rechnen(diagramme, fall) > 0 && gleich;
+    messen(
+        fall.name,
+        [&diagramme, &fall] { benchmark::DoNotOptimize(Diagramm_rechnen(diagramme, fall)); }, 11);
+  }
   Messlauf auswertung(false), proben(false), gesichert(true);
   auswertung.vorbereiten(kZeilen);
   gleich = auswertung.laden_und_rechnen() == kZeilen && gleich;
