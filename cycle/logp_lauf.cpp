@@ -56,7 +56,10 @@ Hindernis LogpLauf::rechne() {
   if (!km.KM_Tabelle_da()) return Hindernis::Mittel;
   if (!pruefen()) return Hindernis::Temperatur;
   vorgeben();
-  if (gestuft && !zwischendruck()) return Hindernis::Mitteldruck;
+  if (gestuft) {
+    const Hindernis hindernis = zwischendruck();
+    if (hindernis != Hindernis::keines) return hindernis;
+  }
   hauptpunkt();
   innerer_WT();
   zwischenstufe();
@@ -113,9 +116,10 @@ void LogpLauf::vorgeben() {
 
 /// The intermediate pressure and its saturation temperature, and the economiser's subcooling.
 /// Pressures of the single-point form count for its own rule only.
-bool LogpLauf::zwischendruck() {
+Hindernis LogpLauf::zwischendruck() {
   double unterkuehlung = f.dT_sc;
   kreis.KreisPunkt(f.t0F, f.tcF, t_s_ohne, unterkuehlung);
+  if (ist_leer(z.p0) || ist_leer(z.pc)) return Hindernis::Kreis;
   kreis.KM_Massenstrom(1, logp_H::Q0);
   if (Economiser) u = oder_null(z.u);
   e.p_m = p_m_Regel();
@@ -125,13 +129,14 @@ bool LogpLauf::zwischendruck() {
   const bool zwischen = z.p0 < e.p_m && e.p_m < z.pc && f.t0F < e.t_m && e.t_m < f.tcF;
   const std::vector<SatZeile>& tabelle = km.Tabellenzeilen();
   const double T_m = e.t_m + nullpunkt;
-  if (!zwischen || T_m > tabelle.back().T || T_m - Schritt_cp <= tabelle.front().T) return false;
+  if (!zwischen || T_m > tabelle.back().T || T_m - Schritt_cp <= tabelle.front().T)
+    return Hindernis::Mitteldruck;
   if (km.ist_CO2() && f.Zweistufig != 0) {
     unterkuehlung = Unterkuehlung_CO2;
     kreis.KreisPunkt(f.t0F, f.t0F + Vorpunkt_dT, t_s_ohne, unterkuehlung);
     z.pc = z.P_hoch;
   }
-  return true;
+  return Hindernis::keines;
 }
 
 double LogpLauf::p_m_Regel() const {

@@ -51,7 +51,7 @@ class LogpLauf {
   // The steps in their order.
   bool pruefen();
   void vorgeben();
-  bool zwischendruck();
+  Hindernis zwischendruck();
   void hauptpunkt();
   void innerer_WT();
   void zwischenstufe();
