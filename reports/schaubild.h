@@ -9,9 +9,9 @@ namespace polarkreis {
 
 /// What a curve stands for; the writer gives each kind its colour, width and dashes.
 enum class Kurvenart {
-  Grenze,         ///< boundary of the two-phase region
+  Grenze,         ///< boundary of the two-phase region; led smoothly through its places
   Isotherme,      ///< line of one temperature
-  Gehalt,         ///< line of one vapour content
+  Gehalt,         ///< line of one vapour content; led smoothly through its places
   Ueberkritisch,  ///< line of one temperature above the critical one
   Prozess,        ///< what the plant does; drawn bold, with an arrow in its direction
   Hilfslinie      ///< what only leads the eye; dashed
@@ -48,8 +48,9 @@ struct Schaubild {
   Schaubildachse x, y;
   std::vector<Kurve> Kurven;  ///< drawn in this order
   std::vector<Marke> Marken;
-  std::vector<std::string> Markenkopf;  ///< headings of the marks' table: the number, then cells
-  std::vector<std::string> Texte;       ///< lines of the text block
+  /// Headings of the marks' table: the number's, then those of the cells, a unit in brackets.
+  std::vector<std::string> Markenkopf;
+  std::vector<std::string> Texte;  ///< lines of the text block; a tab parts label and value
 };
 
 }  // namespace polarkreis
