@@ -63,6 +63,9 @@ std::string stadt_waehlen(Klima& klima, const std::string& stadt) {
 }
 
 void klimaluecken_melden(Klima& klima, const std::string& stadt) {
+  if (klima.Stadtdatei().empty())
+    melde("\"" + Klima::land_anzeige(klima.Land) +
+          "\" is no country: its name must not hold \"/\" or \"\\\".");
   const auto satz = klima.satz(stadt);
   if (!satz)
     melde("The climate tables don't hold that city: the course counts with figures of 0.");

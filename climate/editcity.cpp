@@ -23,7 +23,9 @@ editcity::editcity(Ablage& ablage, const Captions& captions, Klima& klima)
 
 void editcity::lies_Staedte() {
   Spread1 = {};
-  const std::string inhalt = Datei_Inhalt(ablage_, Klima::Klima_Dateiname(klima_.Land));
+  const std::string datei = klima_.Stadtdatei();
+  if (datei.empty()) return;
+  const std::string inhalt = Datei_Inhalt(ablage_, datei);
   ItemLeser leser(inhalt);
   for (Stadtzeile& zeile : Spread1) {
     Stadtzeile gelesen;
@@ -52,10 +54,12 @@ void editcity::Command3D1(int zeile) {
 }
 
 bool editcity::schreib_Staedte() {
+  const std::string datei = klima_.Stadtdatei();
+  if (datei.empty()) return false;
   std::string inhalt;
   for (const Stadtzeile& zeile : Spread1)
     for (const std::string& feld : zeile) zeile_anhaengen(inhalt, {feld});
-  return ablage_.schreib_ganz(Klima::Klima_Dateiname(klima_.Land), inhalt);
+  return ablage_.schreib_ganz(datei, inhalt);
 }
 
 bool editcity::schreib_Laender() {

@@ -41,6 +41,7 @@ std::string Klima::Klima_Dateiname(std::string& land) {
   if (laenge < Namenslaenge) land.append(Namenslaenge - laenge, '_');
   const std::string_view kopf = erste_zeichen(land, Namenslaenge);
   if (gross(kopf) == Standardland) return std::string(Standarddatei);
+  if (kopf.find_first_of("/\\") != std::string_view::npos) return {};
   return std::string(kopf) + ".DAT";
 }
 
@@ -105,13 +106,24 @@ Klima::Stadttabelle Klima::zerlegt(std::string_view inhalt, std::string_view dat
 
 /// A year asks for its city hundreds of times: what is told of a table is told until it is another.
 void Klima::melde_einmal(std::string_view datei, const std::string& text) {
-  if (gemeldet_ == text) return;
-  gemeldet_ = text;
+  std::string ganz = std::string(datei) + text;
+  if (gemeldet_ == ganz) return;
+  gemeldet_ = std::move(ganz);
   ablage_.meldungen().melde("Klima_Wert", datei, text);
 }
 
+std::string Klima::Stadtdatei() {
+  std::string datei = Klima_Dateiname(Land);
+  if (datei.empty())
+    melde_einmal(land_anzeige(Land),
+                 "is no country: its name must not hold \"/\" or \"\\\"; no table is opened");
+  return datei;
+}
+
 const Klima::Stadttabelle& Klima::tabelle() {
-  const std::string datei = Klima_Dateiname(Land);
+  static const Stadttabelle keine;
+  const std::string datei = Stadtdatei();
+  if (datei.empty()) return keine;
   return kopie_.hol(ablage_, datei, [&](std::optional<std::string>&& inhalt) {
     if (!inhalt) leer_anlegen(ablage_, datei);
     return zerlegt(inhalt.value_or(std::string()), datei);

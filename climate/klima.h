@@ -57,7 +57,8 @@ class Klima {
   std::string Monat_aktuell;  ///< a month name exactly as it stands in the caption table
 
   /// Name of the city file of `land`, which is padded with "_" to 8 characters in place; a blank
-  /// one stays and names "AC_CITY.DAT", as "Germany" in any case does.
+  /// one stays and names "AC_CITY.DAT", as "Germany" in any case does. Empty for a text that would
+  /// lead out of the data folder: one with "/" or "\" in its first 8 characters is no country.
   static std::string Klima_Dateiname(std::string& land);
   /// One number of the city out of the file of `Land` (see `Klimawahl`), or the humidity of the
   /// current month in % (selector 8). Empty for an unknown selector or month and for a city that
@@ -66,6 +67,9 @@ class Klima {
   /// All figures of the city, or nothing if the table doesn't hold it. Names are compared trimmed,
   /// with case; the first of equal names counts.
   std::optional<Klimasatz> satz(std::string_view stadt);
+
+  /// The city file of `Land`; empty, and told in the message log, where that is no country.
+  std::string Stadtdatei();
 
   /// The countries in file order, up to the first blank line; the cities of `Land` in file order
   /// without blanks (a blank `Land` becomes "GERMANY_").

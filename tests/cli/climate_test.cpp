@@ -124,6 +124,18 @@ TEST(Course, AYearInSuchACityHasFiguresAndIsTold) {
     EXPECT_TRUE(a.json()[name].is_number()) << name;
 }
 
+TEST(Course, AProjectsCountryThatIsAPathIsToldAndOpensNothing) {
+  const Datenkopie daten;
+  daten.setze_item("Supermarket medium temperature.prj", 19, "../far");
+  const auto vorher = std::filesystem::exists(daten.pfad("../far__.DAT"));
+  const Antwort a = daten.rufe({"simulate", "Supermarket medium temperature.prj", "--json"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_TRUE(hat(a.fehler, "is no country")) << a.fehler;
+  EXPECT_TRUE(a.json()["kWstunden"].is_number());
+  EXPECT_FALSE(vorher);
+  EXPECT_FALSE(std::filesystem::exists(daten.pfad("../far__.DAT")));
+}
+
 TEST(Course, AnUnknownPlaceWritesNothing) {
   const Datenkopie daten;
   EXPECT_EQ(

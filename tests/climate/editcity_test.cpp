@@ -107,6 +107,17 @@ TEST_F(EditCity, BlankCountryShowsTheDefaultFileAndSavesNoCities) {
   EXPECT_EQ(desk.folder.lies("AC_CITY.DAT"), city_file({example_city}));
 }
 
+TEST_F(EditCity, NameThatLeadsOutOfTheFolderReadsAndSavesNoCities) {
+  form.oeffnen();
+  form.CountrySp[4] = "a/b";
+  form.Command3D1(5);
+  EXPECT_EQ(rows_in_use(), 0u);
+  const auto before = desk.folder.namen();
+  EXPECT_FALSE(form.SPS_Sich());
+  EXPECT_EQ(desk.folder.namen(), before);
+  EXPECT_NE(desk.folder.lies("COUNTRY.DAT").find("a/b"), std::string::npos);
+}
+
 TEST_F(EditCity, QuoteInATextSurvives) {
   form.oeffnen();
   form.Spread1[0][0] = "Sant \"A\", B";

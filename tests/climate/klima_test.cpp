@@ -197,6 +197,23 @@ TEST_F(KlimaWert, EditedFileTakesEffectAtTheNextQuery) {
   EXPECT_EQ(klima.Klima_Wert("Probe", 1), 33);
 }
 
+TEST_F(KlimaWert, NameThatLeadsOutOfTheFolderIsNoCountryAndOpensNothing) {
+  desk.folder.schreib("sub/City.DAT", city_file({example_city}));
+  const auto before = desk.folder.namen();
+  const std::vector<std::string> lands{"sub/City", "sub\\City", "../x", "/"};
+  for (const std::string& land : lands) {
+    klima.Land = land;
+    EXPECT_EQ(file_of(land), "") << land;
+    EXPECT_TRUE(ist_leer(klima.Klima_Wert("Probe", 1))) << land;
+    EXPECT_TRUE(klima.staedte().empty()) << land;
+    EXPECT_NE(desk.log.zeilen().back().find(land + ": is no country"), std::string::npos);
+  }
+  EXPECT_EQ(humidity("Probe")[0], 80);
+  EXPECT_EQ(desk.log.zeilen().size(), lands.size()) << "each told once";
+  EXPECT_EQ(desk.folder.namen(), before);
+  EXPECT_EQ(file_of("Trinidad/Tobago"), "Trinidad.DAT") << "the file's name ends before it";
+}
+
 TEST_F(KlimaWert, AnotherCountryIsAnotherFile) {
   desk.folder.schreib("Italy___.DAT",
                       city_file({{"Probe", "35", "40", "10", "28", "", "", "", "", ""}}));
