@@ -82,6 +82,23 @@ void zahlen_anhaengen(Json& json, const Zahlfeld<Satz> (&felder)[n], const Satz&
   for (const auto& f : felder) json[f.name] = zahl(satz.*f.feld);
 }
 
+Json tabelle_json(const std::vector<Ergebniszeile>& zeilen) {
+  Json tabelle = Json::array();
+  for (const Ergebniszeile& z : zeilen)
+    tabelle.push_back(
+        {{"label", z.bezeichnung}, {"value", z.wert}, {"unit", z.einheit}, {"share", z.anteil}});
+  return tabelle;
+}
+
+/// What only a year works out; a design kind leaves those figures at their start values.
+void jahr_anhaengen(Json& json, const Rechnung& r, const Projektdaten& projekt) {
+  const bool jahr = r.ergebnis.Rechart == 1;
+  for (const auto& f : kSummen) json[f.name] = zahl(jahr ? r.lauf.summen.*f.feld : leer);
+  json["Q_WW_Tag"] = zahl(r.lauf.Q_WW_Tag);
+  json["t_abtau"] = zahl(jahr ? r.lauf.t_abtau : leer);
+  json["ERG_Spread"] = jahr ? tabelle_json(ERG_Spread(projekt, r.lauf, r.ergebnis)) : Json::array();
+}
+
 void meps_anhaengen(Json& json, const MEPS& m) {
   Json marken = Json::array();
   for (double marke : m.marken) marken.push_back(zahl(marke));
@@ -90,14 +107,6 @@ void meps_anhaengen(Json& json, const MEPS& m) {
   json["MEPS_Ist"] = zahl(m.Ist);
   json["MEPS_position"] = zahl(m.position);
   json["MEPS_green"] = zahl(m.gruen_ab);
-}
-
-Json tabelle_json(const std::vector<Ergebniszeile>& zeilen) {
-  Json tabelle = Json::array();
-  for (const Ergebniszeile& z : zeilen)
-    tabelle.push_back(
-        {{"label", z.bezeichnung}, {"value", z.wert}, {"unit", z.einheit}, {"share", z.anteil}});
-  return tabelle;
 }
 
 }  // namespace
@@ -118,13 +127,10 @@ Json rechnung_json(const Rechnung& r, const Projektdaten& projekt) {
   json["Rechart_combo"] = projekt.Rechart_combo;
   json["Bewertung"] = r.ergebnis.Bewertung;
   zahlen_anhaengen(json, kErgebnis, r.ergebnis);
-  zahlen_anhaengen(json, kSummen, r.lauf.summen);
-  json["Q_WW_Tag"] = zahl(r.lauf.Q_WW_Tag);
-  json["t_abtau"] = zahl(r.lauf.t_abtau);
+  jahr_anhaengen(json, r, projekt);
   meps_anhaengen(json, r.ergebnis.meps);
   json["shares"] = Json::object();
   zahlen_anhaengen(json["shares"], kAnteile, r.ergebnis);
-  json["ERG_Spread"] = tabelle_json(ERG_Spread(projekt, r.lauf, r.ergebnis));
   json["auslegung"] = punkt_json(r.lauf.auslegung, projekt.km.z, projekt.WinterRGart);
   return json;
 }

@@ -90,7 +90,13 @@ TEST(Simulate, ADesignKindLeavesTheHoursAlone) {
   EXPECT_EQ(j["Rechart"], 0);
   EXPECT_EQ(j["Bewertung"], "ESEER");
   EXPECT_TRUE(j["SCOP"].is_null());
-  EXPECT_EQ(j["E_Verd"], 0.0);
+  for (const char* name :
+       {"E_Verd", "E_Abtau", "E_VFl_Luefter", "E_VDa_Luefter", "E_Pumpe", "Wasser_Adiabat",
+        "E_FreeCool_Spar", "Q_Wasser", "Q_Heiz", "Q_Heiz_Bedarf", "Vollast_Tage", "COP_Sum",
+        "COP_min", "COP_max", "Q_WW_Tag", "t_abtau"})
+    EXPECT_TRUE(j.at(name).is_null()) << name;
+  EXPECT_TRUE(j["ERG_Spread"].is_array() && j["ERG_Spread"].empty());
+  EXPECT_TRUE(j["kWstunden"].is_number());
   EXPECT_GT(j["COP"].get<double>(), 1);
   EXPECT_EQ(daten.lies("ERG_TEMP.DAT"), "of the last year");
   EXPECT_TRUE(daten.da("ergEN1.DAT"));
