@@ -69,6 +69,10 @@ Messdatei::Ladung Messplatz::laden(const std::string& name) {
   einstellungen_.vor_dem_laden(diagnose.messung);
   const Messdatei::Ladung ladung = diagnose.laden(pfad);
   fortschritt.loeschen();
+  if (ladung.ueberzaehlig > 0)
+    melde("The file \"" + name + "\" is longer than a measurement may be: " +
+          std::to_string(ladung.ueberzaehlig) + " rows behind the first " +
+          std::to_string(diagnose.datei.Hoechstzeilen) + " were left out.");
   const bool leer = diagnose.messung.Messpunkte() == 0 && !ladung.abgelehnt;
   if ((leer || !beginnt_mit_Item(*inhalt)) && !hat_Zeilenzahl(*inhalt))
     throw Abbruch("The file \"" + name +

@@ -103,6 +103,7 @@ Json messung_json(const DiaGnostic& d, const Messdatei::Ladung& ladung) {
   json["asked"] = ladung.gefragt;
   json["dropped"] = ladung.verworfen;
   json["replaced"] = ladung.ersetzt;
+  json["surplus"] = ladung.ueberzaehlig;
   json["Sensor_Code"] = funktionen_json(d.kern.Funktion);
   json["Summe_Energ"] = zahl(d.kern.Summe_Energ);
   json["Sum_zeit_messung"] = zahl(d.kern.Sum_zeit_messung);

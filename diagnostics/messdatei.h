@@ -20,6 +20,8 @@ class Messdatei {
 
   /// The working copy; empty for a job that keeps none.
   std::string Arbeitskopie = "FM_diag.dat";
+  /// Rows that a load takes: eleven days of a sample each five seconds, a gigabyte of memory.
+  int Hoechstzeilen = 200'000;
   /// Whether an appended row must be on the disk before the run goes on.
   Haltbarkeit Anhaengen = Haltbarkeit::sicher;
 
@@ -40,10 +42,12 @@ class Messdatei {
     bool abgebrochen = false;  ///< the file is of a run that did not end
     int verworfen = 0;         ///< rows left out for want of pressures
     int ersetzt = 0;           ///< bad rows that repeat the row before
+    int ueberzaehlig = 0;      ///< rows left out behind the last one that a load takes
   };
   /// Replaces the table and its settings. A missing file reads as empty: no rows, texts and
-  /// settings empty or at their defaults. A row that was cut off is left out. Where the working
-  /// copy's rows are not wanted, the file is kept beside.
+  /// settings empty or at their defaults. A row that was cut off is left out, and so are the rows
+  /// behind `Hoechstzeilen`. Where the working copy's rows are not wanted, or not all taken, the
+  /// file is kept beside.
   Ladung LoadDiaG(std::string_view path, Fortschritt* fortschritt = nullptr);
 
   /// Begins the working copy with the heading of a run. One that holds rows is first kept beside

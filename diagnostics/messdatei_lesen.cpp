@@ -64,8 +64,8 @@ class Zeilenlader {
                 messung.Auto_corr_Check == 1),
         ladung_(ladung) {}
 
-  /// False if the progress asked to stop.
-  bool lade(int erwartet, Fortschritt* fortschritt);
+  /// Takes at most so many rows. False if the progress asked to stop.
+  bool lade(int erwartet, int hoechstens, Fortschritt* fortschritt);
 
  private:
   bool lege_ab();
@@ -79,11 +79,15 @@ class Zeilenlader {
   int gute_ = Messtabelle::Erste;  // the last good row, which a bad one repeats
 };
 
-bool Zeilenlader::lade(int erwartet, Fortschritt* fortschritt) {
+bool Zeilenlader::lade(int erwartet, int hoechstens, Fortschritt* fortschritt) {
   for (int gelesen = 1;; ++gelesen) {
     if (fortschritt != nullptr) {
       const int anzahl = std::max(erwartet, gelesen);
       if (!fortschritt->schritt(Zaehltext(gelesen, anzahl), gelesen, anzahl)) return false;
+    }
+    if (zeile_ - Messtabelle::Erste >= hoechstens) {
+      ladung_.ueberzaehlig = Zeilen_zaehlen(leser_);
+      return true;
     }
     if (!leser_.lies_Zeile(puffer_)) return true;
     begrenze(puffer_);
@@ -134,7 +138,10 @@ void berichte(Meldungen& meldungen, std::string_view path, const Messdatei::Ladu
   if (ladung.ersetzt > 0)
     melde("rows with impossible pressures, taken as the row before: " +
           std::to_string(ladung.ersetzt));
-  if (leser.abgeschnitten())
+  if (ladung.ueberzaehlig > 0)
+    melde("rows left out behind the last one that a measurement takes: " +
+          std::to_string(ladung.ueberzaehlig));
+  else if (leser.abgeschnitten())
     melde("the file was cut off: what is not whole at its end is left out");
   else if (leser.noch_Text())
     melde("what follows a row without a text in its first ten columns is left out");
@@ -160,11 +167,13 @@ Messdatei::Ladung Messdatei::LoadDiaG(std::string_view path, Fortschritt* fortsc
   ladung.gefragt = kopf.Zeilen > Frage_ueber;
   const bool gewollt = !ladung.gefragt || dialog_.frage(Frage(captions_, kopf.Zeilen),
                                                         captions_.text(Caption::Diagnose));
-  if (!gewollt || !Zeilenlader(leser, messung_, ladung).lade(kopf.Zeilen, fortschritt))
+  if (!gewollt ||
+      !Zeilenlader(leser, messung_, ladung).lade(kopf.Zeilen, Hoechstzeilen, fortschritt))
     return abgelehnt(path, ladung);
   messung_.Mess_Zeilen = messung_.DiaSpread.letzte_gefuellte();
   messung_.DiaSpread.setze_Zeilenzahl(
       std::max(messung_.Mess_Zeilen + 1, Messtabelle::Mindestzeilen));
+  if (ladung.ueberzaehlig > 0 && ist_Arbeitskopie(path)) zu_retten_ = !beiseite_legen();
   berichte(ablage_.meldungen(), path, ladung, leser);
   return ladung;
 }

@@ -140,6 +140,17 @@ TEST_F(Laufdatei, EndOfTheModuleWritesItWhole) {
   EXPECT_EQ(inhalt(), desk.ordner.lies("same.fmd"));
 }
 
+TEST_F(Laufdatei, WorkingCopyThatIsTooLongIsKeptBeside) {
+  ASSERT_TRUE(datei.Lauf_beginnen());
+  for (int n = 1; n <= 4; ++n) ASSERT_TRUE(probe(n));
+  const std::string lauf = inhalt();
+  datei.Hoechstzeilen = 3;
+  EXPECT_EQ(datei.LoadDiaG(Datei).ueberzaehlig, 1);
+  EXPECT_EQ(desk.ordner.lies(Beiseite), lauf);
+  ASSERT_TRUE(datei.Arbeitskopie_schreiben());
+  EXPECT_EQ(desk.dateien(".fmd"), Namen{Beiseite});
+}
+
 TEST_F(Laufdatei, AnswerNoKeepsTheWorkingCopyBeside) {
   ASSERT_TRUE(datei.Lauf_beginnen());
   for (int n = 1; n <= 1001; ++n) {

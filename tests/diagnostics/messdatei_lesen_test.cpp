@@ -289,6 +289,27 @@ TEST_F(LoadDiaG, FileOfARunThatDidNotEndNamesItsTrueCount) {
   EXPECT_EQ(m.Messpunkte(), 1500);
 }
 
+TEST_F(LoadDiaG, RowsBehindTheLongestMeasurementAreLeftOutAndCounted) {
+  desk.datei.Hoechstzeilen = 5;
+  zeilen(2);
+  inhalt.zeile("0", "0");  // dropped, so it takes no row
+  zeilen(3);
+  EXPECT_EQ(lade().ueberzaehlig, 0);
+  EXPECT_EQ(m.Messpunkte(), 5);
+  EXPECT_FALSE(desk.gemeldet("left out behind"));
+
+  inhalt.zeile();
+  inhalt.zelle(1, "13:00:00");
+  zeilen(2);
+  const Messdatei::Ladung ladung = lade();
+  EXPECT_EQ(ladung.ueberzaehlig, 3);
+  EXPECT_EQ(ladung.verworfen, 1);
+  EXPECT_EQ(m.Messpunkte(), 5);
+  EXPECT_EQ(m.Mess_Zeilen, 7);
+  EXPECT_EQ(desk.zelle(7, Spalte::Zeit), "12:00:00");
+  EXPECT_TRUE(desk.gemeldet("left out behind the last one that a measurement takes: 3"));
+}
+
 TEST_F(LoadDiaG, ProgressTellsTheRows) {
   zeilen(3);
   Zaehler fortschritt;
