@@ -37,6 +37,23 @@ constexpr std::array<Importweg, 5> kWege{{
      [](DiaGnostic& d, const std::string& pfad, int) { return d.Testo_Excel_import(pfad, 2); }},
 }};
 
+// The command that reads the kind that the file plainly is; empty where it shows no other one.
+std::string anderer_weg(Importform form) {
+  struct Befehl {
+    Importform form;
+    const char* name;
+  };
+  constexpr std::array<Befehl, 4> befehle{
+      {{Importform::Logger, "\"import adc\""},
+       {Importform::Steuertext, "\"import control\""},
+       {Importform::ClimaCheck, "\"import climacheck\""},
+       {Importform::Testo, "\"import testo-verd\" or \"import testo-verfl\""}}};
+  for (const Befehl& b : befehle)
+    if (b.form == form)
+      return "The file looks like " + std::string(Importform_Text(form)) + ": try " + b.name + ".";
+  return {};
+}
+
 void ausfuehren(Sitzung& sitzung, const Wuensche& w, const Importweg& weg) {
   Messempfaenger stumm;
   Messplatz platz(sitzung, w, stumm);
@@ -44,6 +61,7 @@ void ausfuehren(Sitzung& sitzung, const Wuensche& w, const Importweg& weg) {
   const Importergebnis ergebnis =
       weg.lies(platz.diagnose, messdatei_pfad(platz.p, w.datei), w.teil);
   platz.fortschritt.loeschen();
+  if (const std::string rat = anderer_weg(ergebnis.eher); !rat.empty()) melde(rat);
   if (ergebnis.Teil_fehlt())
     throw Abbruch("The file \"" + w.datei + "\" is too long for one reading: it has " +
                   std::to_string(ergebnis.Teile) + " parts. Choose one with --part.");

@@ -43,6 +43,17 @@ Kanalzeile Messimport::kanalzeile() const {
   return {kanaele_, SP_Zuweis(messung_.OrbiN_spread, captions_).Sensor_Code[1]};
 }
 
+/// Names the kind that the file shows where another one was asked for: what can be read is taken
+/// all the same.
+void Messimport::vergleiche(std::string_view path, Importform gefragt, Importform gezeigt,
+                            Importergebnis& ergebnis) const {
+  if (gezeigt == gefragt || gezeigt == Importform::keine) return;
+  ergebnis.eher = gezeigt;
+  ablage_.meldungen().melde(
+      "import", path,
+      "looks like " + std::string(Importform_Text(gezeigt)) + "; it was read as asked");
+}
+
 /// What follows an import that took rows: the measurement's name, and the log.
 void Messimport::beenden(std::string_view path, std::string_view name,
                          const Importergebnis& ergebnis) {
@@ -59,6 +70,8 @@ Importergebnis Messimport::DiaG_import(std::string_view path, int mode, int teil
   std::string text;
   if (!lies(path, text, ergebnis.grund)) return ergebnis;
   ergebnis = mode == I_Logger ? Logger_import(text, teil) : Steuertext_import(text);
+  vergleiche(path, mode == I_Logger ? Importform::Logger : Importform::Steuertext,
+             Textform_von(text), ergebnis);
   beenden(path, Dateiname_von(path), ergebnis);
   return ergebnis;
 }

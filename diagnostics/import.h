@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "diagnostics/arbeitsmappe.h"
+#include "diagnostics/import_form.h"
 #include "diagnostics/import_zeilen.h"
 #include "diagnostics/kanaele.h"
 #include "diagnostics/messung.h"
@@ -24,6 +25,8 @@ struct Importergebnis {
   int Teile = 1;          ///< parts of the file; above 1 one of them has to be chosen
   std::string grund{};    ///< why nothing was taken: a sentence for the user; empty after a success
   std::string hinweis{};  ///< what was left out, as such a sentence; the message log has it, too
+  /// Another kind that the file plainly is, whatever came of reading it as this one.
+  Importform eher = Importform::keine;
 
   /// The file is too long for one reading: nothing was read, and a part has to be named.
   bool Teil_fehlt() const { return Zeilen == 0 && Teile > 1 && grund.empty(); }
@@ -75,6 +78,11 @@ class Messimport {
   bool weiter(int nummer, int anzahl) const;
   bool je_Zeile(std::string_view text,
                 const std::function<void(int block, std::string_view zeile)>& nimm) const;
+  Importergebnis ClimaCheck_Blatt(const Arbeitsmappe& mappe, std::string_view path,
+                                  const std::function<double(double)>& Cos_phi);
+  Importergebnis Testo_Blatt(const Arbeitsmappe& mappe, std::string_view path, int kind);
+  void vergleiche(std::string_view path, Importform gefragt, Importform gezeigt,
+                  Importergebnis& ergebnis) const;
   void beenden(std::string_view path, std::string_view name, const Importergebnis& ergebnis);
 
   Messung& messung_;

@@ -94,11 +94,19 @@ Importergebnis Messimport::CC_excel_Import(std::string_view path, Arbeitsmappenl
   Importergebnis ergebnis;
   const auto mappe = oeffne(path, leser, ergebnis.grund);
   if (!mappe) return ergebnis;
+  ergebnis = ClimaCheck_Blatt(*mappe, path, Cos_phi);
+  vergleiche(path, Importform::ClimaCheck, Blattform_von(*mappe), ergebnis);
+  return ergebnis;
+}
+
+Importergebnis Messimport::ClimaCheck_Blatt(const Arbeitsmappe& mappe, std::string_view path,
+                                            const std::function<double(double)>& Cos_phi) {
+  Importergebnis ergebnis;
   Importtabelle neu(messung_);
-  const int letzte = std::min(mappe->letzte_Zeile(), Erste_Blattzeile + Zeilen_Arbeitsblatt - 1);
+  const int letzte = std::min(mappe.letzte_Zeile(), Erste_Blattzeile + Zeilen_Arbeitsblatt - 1);
   int n = Erste_Blattzeile;
   for (; n <= letzte; ++n) {
-    const Blattzeile blatt(*mappe, n);
+    const Blattzeile blatt(mappe, n);
     if (ist_Ende(blatt("D"))) break;
     if (n % Zeilen_je_Anzeige == 0 && !weiter(n, letzte)) return {.grund = Import_angehalten};
     Zeile_setzen(blatt, neu.tabelle, neu.beginne_Zeile(Zeit_Text(blatt("D"))), Cos_phi);
@@ -106,9 +114,9 @@ Importergebnis Messimport::CC_excel_Import(std::string_view path, Arbeitsmappenl
   if (neu.Zeilen() == 0)
     return {.grund = "The worksheet holds no data: column D is empty in row 25."};
   ergebnis.Zeilen = neu.Zeilen();
-  if (n > letzte && n <= mappe->letzte_Zeile()) ergebnis.hinweis = Blatt_zu_lang;
+  if (n > letzte && n <= mappe.letzte_Zeile()) ergebnis.hinweis = Blatt_zu_lang;
   std::move(neu).uebernehmen(messung_, n - (Erste_Blattzeile - 1));
-  const std::string name = Text_von(mappe->Range("E5"));
+  const std::string name = Text_von(mappe.Range("E5"));
   beenden(path, name.substr(0, name.find('.')), ergebnis);
   return ergebnis;
 }

@@ -85,7 +85,14 @@ Importergebnis Messimport::Testo_Excel_import(std::string_view path, Arbeitsmapp
   Importergebnis ergebnis;
   const auto mappe = oeffne(path, leser, ergebnis.grund);
   if (!mappe) return ergebnis;
-  const int n = Datenende(*mappe);
+  ergebnis = Testo_Blatt(*mappe, path, kind);
+  vergleiche(path, Importform::Testo, Blattform_von(*mappe), ergebnis);
+  return ergebnis;
+}
+
+Importergebnis Messimport::Testo_Blatt(const Arbeitsmappe& mappe, std::string_view path, int kind) {
+  Importergebnis ergebnis;
+  const int n = Datenende(mappe);
   if (n == Messtabelle::Erste)
     return {.grund = "The worksheet holds no data: columns D to H are empty in row 3."};
   if (!weiter(0, n)) return {.grund = Import_angehalten};
@@ -96,13 +103,13 @@ Importergebnis Messimport::Testo_Excel_import(std::string_view path, Arbeitsmapp
     tabelle.setze(zeile, Spalte::Zeilenkopf, std::to_string(zeile - Messtabelle::Erste + 1));
     if (tabelle.text(zeile, Spalte::Zeit).empty())
       tabelle.setze(zeile, Spalte::Zeit, laufende_Uhrzeit(zeile, messung_.Messintervall_s()));
-    Zeile_setzen(*mappe, tabelle, zeile, kind);
+    Zeile_setzen(mappe, tabelle, zeile, kind);
   }
   messung_.Mess_Zeilen = n - 2;
   ergebnis.Zeilen = n - Messtabelle::Erste;
-  if (ergebnis.Zeilen == Zeilen_Arbeitsblatt && !ist_Ende(*mappe, n))
+  if (ergebnis.Zeilen == Zeilen_Arbeitsblatt && !ist_Ende(mappe, n))
     ergebnis.hinweis = Blatt_zu_lang;
-  beenden(path, Name_von(*mappe), ergebnis);
+  beenden(path, Name_von(mappe), ergebnis);
   return ergebnis;
 }
 

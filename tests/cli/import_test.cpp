@@ -212,6 +212,31 @@ TEST(Import, AFileOfNoSuchKindIsToldAndNothingIsWritten) {
   EXPECT_TRUE(daten.inhalt() == vorher);
 }
 
+TEST(Import, AFileThatPlainlyIsOfAnotherKindIsToldWithTheCommandForIt) {
+  const Importordner daten;
+  const std::vector<std::array<const char*, 3>> paare{
+      {"adc", "KKP_FMD_TEMP_2.txt", "a text file of a control system: try \"import control\""},
+      {"control", "R404A cold store.adc", "a logger's own file (.adc): try \"import adc\""},
+      {"control", "R134A monitoring box.adc", "try \"import adc\""},
+      {"climacheck", "Testo 735 condenser.xlsx",
+       "a Testo 735 worksheet: try \"import testo-verd\""},
+      {"climacheck", "Testo 735 evaporator.xls", "\"import testo-verfl\""},
+      {"testo-verd", "ClimaCheck cold store.xls",
+       "a ClimaCheck worksheet: try \"import climacheck\""}};
+  for (const auto& [art, datei, rat] : paare)
+    EXPECT_TRUE(hat(daten.importiere(art, datei).fehler, rat)) << art << datei;
+  for (const auto& [art, datei] :
+       std::vector<std::array<const char*, 2>>{{"control", "KKP_FMD_TEMP_2.txt"},
+                                               {"adc", "R404A cold store.adc"},
+                                               {"adc", "R134A monitoring box.adc"},
+                                               {"testo-verfl", "Testo 735 condenser.xlsx"},
+                                               {"climacheck", "ClimaCheck cold store.xls"}}) {
+    const Antwort a = daten.importiere(art, datei);
+    EXPECT_EQ(a.status, 0) << datei;
+    EXPECT_FALSE(hat(a.fehler, "looks like")) << datei << a.fehler;
+  }
+}
+
 TEST(Import, OffsetsOfTheDataFolderAreAdded) {
   const Importordner daten;
   // Slots 1 (position 9) and 9 (position 7).

@@ -32,6 +32,34 @@ TEST(ImportSteuertext, ThirtyTwoValuesGoToTheirColumns) {
   EXPECT_EQ(desk.m.ProjektNam, "control.txt");
 }
 
+TEST(ImportSteuertext, TextsThatPlainlyAreOfTheOtherKindAreTakenAndTold) {
+  ImportDesk desk;
+  const std::string steuertext = zeile("20.11.2026 16:05:07", zahlen(32));
+  const std::string logger = logger_zeile("16:05:07", zahlen(16));
+  EXPECT_EQ(desk.steuertext(steuertext).eher, Importform::keine);
+  EXPECT_EQ(desk.adc(logger).eher, Importform::keine);
+  EXPECT_TRUE(desk.meldungen.zeilen().empty());
+
+  const auto als_adc = desk.adc(steuertext);
+  EXPECT_EQ(als_adc.eher, Importform::Steuertext);
+  EXPECT_EQ(als_adc.Zeilen, 1);
+  EXPECT_TRUE(desk.gemeldet("a text file of a control system"));
+  const auto als_steuertext = desk.steuertext(logger + logger);
+  EXPECT_EQ(als_steuertext.eher, Importform::Logger);
+  EXPECT_EQ(als_steuertext.Zeilen, 1);
+  EXPECT_TRUE(desk.gemeldet("a logger's own file"));
+}
+
+TEST(ImportSteuertext, FormOfATextShowsInItsFirstLineWithAClockTime) {
+  EXPECT_EQ(Textform_von("night of 2.3.\r\n02.03.2026  06:00:00\t231,7\t230,5\r\n"),
+            Importform::Logger);
+  EXPECT_EQ(Textform_von("\"02.03.2026  06:00:00\",\"231\"\n"), Importform::Steuertext);
+  EXPECT_EQ(Textform_von("02.03.2026 06:00:00,231.5,230\n"), Importform::Steuertext);
+  EXPECT_EQ(Textform_von("\"02.03.2026 06:00:00\"\n\"231\"\n"), Importform::keine);
+  EXPECT_EQ(Textform_von("a,b\tc\n"), Importform::keine);
+  EXPECT_EQ(Textform_von(""), Importform::keine);
+}
+
 TEST(ImportSteuertext, ThirtyThreeItemsAreARowWhateverTheLines) {
   ImportDesk desk;
   std::string text;

@@ -40,6 +40,31 @@ TEST(ImportTesto, PairsGiveTheirMeans) {
   EXPECT_EQ(desk.zelle(4, 4), "5.5");
 }
 
+TEST(ImportTesto, SheetOfAnotherInstrumentIsTold) {
+  TestoDesk desk;
+  desk.zeile(3, {20.0, 21.0});
+  for (int zeile = 4; zeile <= 30; ++zeile) desk.zeile(zeile, {20.0, 21.0, 10.0, 11.0, 5.0});
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::Testo);
+  EXPECT_EQ(desk.lies(1).eher, Importform::keine);
+  const auto als_climacheck =
+      desk.import.CC_excel_Import(Mappe, desk.mappen, [](double) { return 0.8; });
+  EXPECT_EQ(als_climacheck.eher, Importform::Testo);
+  EXPECT_EQ(als_climacheck.Zeilen, 6) << "taken all the same";
+  EXPECT_TRUE(desk.gemeldet("a Testo 735 worksheet"));
+
+  desk.blatt = Arbeitsmappe();
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::keine);
+  desk.blatt.setze(25, 4, Zeitwert{0.5});
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::keine);
+  for (const int spalte : {7, 24}) desk.blatt.setze(25, spalte, 8.5);
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::ClimaCheck);
+  const auto als_testo = desk.lies(2);
+  EXPECT_NE(als_testo.grund, "");
+  EXPECT_EQ(als_testo.eher, Importform::ClimaCheck);
+  desk.zeile(3, {20.0, 21.0});
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::ClimaCheck);
+}
+
 TEST(ImportTesto, FirstPairIsRaisedBeforeTheCut) {
   TestoDesk desk;
   desk.zeile(3, {20.0196, 20.0196, 20.0196, 20.0196});
