@@ -144,7 +144,7 @@ def compressor(design, table, duty, volume):
              for density, speed in ((rho, 12), (rho * ratio ** (1 / n), 11))]
     return [
         f"{design.series}-{volume:.0f}{duty[0][0].upper()}",
-        f"{design.maker}, {design.series}",
+        f"{design.maker}, {design.series} {design.kind.split()[-1]}",
         f"Refrigerant: {refrigerant.name}",
         f"Displacement: {significant(volume)} m³/h",
         f"Rated at: t0 {t0} °C, tc {tc} °C, {SUPERHEAT} K",

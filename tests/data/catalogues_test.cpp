@@ -132,7 +132,7 @@ TEST(Catalogues, TellModelsOfAListApart) {
 TEST(Catalogues, WriteUmlautsInTheCodePage) {
   EXPECT_EQ(fields(bytes("VERDICHN.rdm"), 266)[1],
             "S\x81"
-            "dhang K\x84ltetechnik, SKS");
+            "dhang K\x84ltetechnik, SKS scroll");
   EXPECT_EQ(fields(bytes("LUFTKVDN.rdm"), 2)[1], "Frostm\x81hle Luftk\x81hler, FM4");
   EXPECT_EQ(fields(bytes("AXIALKDN.rdm"), 102)[1], "Gr\x94nstad Kyl, GKV");
 }
