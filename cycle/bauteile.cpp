@@ -12,8 +12,14 @@ namespace {
 constexpr int kTypsatz = 51;
 constexpr std::size_t kFeldlaenge = 40;
 
+// Bytes that were never written are NULs in old catalogues.
+constexpr std::string_view kLeerstellen{" \t\0", 3};
+
 std::string_view feld(std::string_view satz, std::size_t n) {
-  return getrimmt(satz.substr(n * kFeldlaenge, kFeldlaenge));
+  const std::string_view ganz = satz.substr(n * kFeldlaenge, kFeldlaenge);
+  const std::size_t anfang = ganz.find_first_not_of(kLeerstellen);
+  if (anfang == std::string_view::npos) return {};
+  return ganz.substr(anfang, ganz.find_last_not_of(kLeerstellen) + 1 - anfang);
 }
 
 Bauteil bauteil(std::string_view satz, int nummer) {
@@ -21,16 +27,6 @@ Bauteil bauteil(std::string_view satz, int nummer) {
   b.Satz = nummer;
   for (std::size_t n = 0; n < Bauteil::Feldzahl; ++n) b.Felder[n] = aus_CP850(feld(satz, n));
   return b;
-}
-
-// Records that were never written hold NUL bytes in old catalogues.
-bool ist_leerstelle(char c) {
-  return c == ' ' || c == '\0';
-}
-
-/// `gesucht` in capitals.
-bool enthaelt(std::string_view bytes, std::string_view gesucht) {
-  return gross(aus_CP850(bytes)).find(gesucht) != std::string::npos;
 }
 
 }  // namespace
@@ -59,7 +55,7 @@ int Bauteile::Typ() {
   std::string text = dateien_.ablage.Satz_Lesen(nummer_, kTypsatz);
   char& ziffer = text.front();
   if (ziffer >= '0' && ziffer <= '9') return ziffer - '0';
-  if (!ist_leerstelle(ziffer)) {
+  if (kLeerstellen.find(ziffer) == std::string_view::npos) {
     dateien_.melde(datei_, "record 51 begins with no digit: the type is taken from the code");
     return typ;
   }
@@ -68,7 +64,7 @@ int Bauteile::Typ() {
   return typ;
 }
 
-std::vector<Bauteil> Bauteile::suche(int Anfang, int hoechstens, std::string_view text) {
+std::vector<Bauteil> Bauteile::suche(int Anfang, int hoechstens, const Suchmuster& muster) {
   std::vector<Bauteil> gefunden;
   if (Anfang < 1 || anzahl_ == 0) return gefunden;
   if (Anfang > anzahl_) {
@@ -76,23 +72,15 @@ std::vector<Bauteil> Bauteile::suche(int Anfang, int hoechstens, std::string_vie
                                std::to_string(Anfang) + ": no component is read");
     return gefunden;
   }
-  const std::string gesucht = gross(getrimmt(text));
   const int ende = Anfang - 1 + std::min(hoechstens, anzahl_ - Anfang + 1);
   for (int n = Anfang; n <= ende; ++n) {
     if (n == kTypsatz) continue;
-    const std::string bytes = satz(n);
-    const std::string_view erstes = feld(bytes, 0), zweites = feld(bytes, 1);
+    const std::string satz = dateien_.ablage.Satz_Lesen(nummer_, n);
+    const std::string_view erstes = feld(satz, 0), zweites = feld(satz, 1);
     if (erstes.empty() && zweites.empty()) break;
-    if (enthaelt(erstes, gesucht) || enthaelt(zweites, gesucht))
-      gefunden.push_back(bauteil(bytes, n));
+    if (muster.in(erstes) || muster.in(zweites)) gefunden.push_back(bauteil(satz, n));
   }
   return gefunden;
-}
-
-std::string Bauteile::satz(int n) const {
-  std::string bytes = dateien_.ablage.Satz_Lesen(nummer_, n);
-  std::ranges::replace_if(bytes, ist_leerstelle, ' ');
-  return bytes;
 }
 
 int Katalogtyp(Katalogdateien& dateien, std::string_view code) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cycle/katalog_datei.h"
+#include "cycle/suchmuster.h"
 
 namespace polarkreis {
 
@@ -31,14 +32,12 @@ class Bauteile {
   /// The digit that record 51 begins with. Where a blank stands there, the type is the code's and
   /// is written back when the object goes; a file that is absent or read-only stays as it is.
   int Typ();
-  /// The components whose first or second field holds the text, in any case (the empty text is in
-  /// all of them), among at most `hoechstens` records from number `Anfang` on. A record whose both
-  /// fields are blank ends the catalogue. Record 51 is the type's and no component.
-  std::vector<Bauteil> suche(int Anfang, int hoechstens, std::string_view text);
+  /// The components whose first or second field holds the text, among at most `hoechstens` records
+  /// from number `Anfang` on. A record whose both fields are blank ends the catalogue. Record 51 is
+  /// the type's and no component.
+  std::vector<Bauteil> suche(int Anfang, int hoechstens, const Suchmuster& muster);
 
  private:
-  std::string satz(int n) const;
-
   Katalogdateien& dateien_;
   std::string code_;
   std::string datei_;

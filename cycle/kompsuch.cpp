@@ -69,6 +69,7 @@ void KompSuch::Listen_fuellen() {
 void KompSuch::Suchen() {
   Ergebnisse.clear();
   const std::vector<std::string> produkte = verborgene(dateien_.ablage);
+  const Suchmuster muster(Suchtext);
   Offene offene(dateien_);
   for (Indexzeile& zeile : dateien_.Index(Suchart)) {
     if (!gewaehlt(Hersteller, zeile.Hersteller) || !gewaehlt(Katalog, zeile.code)) continue;
@@ -77,7 +78,7 @@ void KompSuch::Suchen() {
     if (!ergebnis.verborgen) {
       Bauteile& bauteile = offene.hol(zeile.code);
       ergebnis.Typ = bauteile.Typ();
-      ergebnis.Treffer = bauteile.suche(zeile.Anfang, Satzzahl, Suchtext);
+      ergebnis.Treffer = bauteile.suche(zeile.Anfang, Satzzahl, muster);
     }
     ergebnis.zeile = std::move(zeile);
     Ergebnisse.push_back(std::move(ergebnis));

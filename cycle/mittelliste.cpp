@@ -94,7 +94,7 @@ std::vector<Mittelzeile> KM_Liste(Katalogdateien& dateien, std::string_view Beze
 std::vector<Bauteil> Listenbauteile(Katalogdateien& dateien, const Mittelzeile& zeile) {
   const std::string_view code = std::string_view(zeile.Datei).substr(0, Codelaenge);
   if (!ist_Katalogcode(code) || !gleich(zeile.Datei, Bauteildatei(code))) return {};
-  return Bauteile(dateien, code).suche(zeile.Anfang, Listenblock, {});
+  return Bauteile(dateien, code).suche(zeile.Anfang, Listenblock, Suchmuster({}));
 }
 
 }  // namespace polarkreis

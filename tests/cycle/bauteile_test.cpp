@@ -18,7 +18,7 @@ std::vector<int> nummern(const std::vector<Bauteil>& bauteile) {
 }
 
 std::vector<int> gefunden(Katalogordner& o, int anfang, const std::string& text) {
-  return nummern(Bauteile(o.dateien, "BOREALX").suche(anfang, kAlle, text));
+  return nummern(Bauteile(o.dateien, "BOREALX").suche(anfang, kAlle, Suchmuster(text)));
 }
 
 TEST(Katalogtyp, IsTheDigitThatRecord51BeginsWith) {
@@ -108,7 +108,7 @@ TEST(Bauteile, FieldsAreFortyBytesEachAsUtf8) {
   satz.replace(560, 10, "rest bytes");
   o.schreib("BOREALXN.rdm", Katalogordner::satz({}) + satz);
   Bauteile bauteile(o.dateien, "BOREALX");
-  const auto alle = bauteile.suche(2, kAlle, "");
+  const auto alle = bauteile.suche(2, kAlle, Suchmuster(""));
   ASSERT_EQ(alle.size(), 1U);
   EXPECT_EQ(alle[0].Satz, 2);
   EXPECT_EQ(alle[0].Felder[0], std::string(40, 'a'));
@@ -154,7 +154,7 @@ TEST(Bauteile, RecordsOfNulBytesAreEmpty) {
   Katalogordner o;
   o.schreib("BOREALXN.rdm", Katalogordner::satz({"a" + std::string(39, '\0'), "b"}) +
                                 std::string(570, '\0') + Katalogordner::satz({"a"}));
-  const auto alle = Bauteile(o.dateien, "BOREALX").suche(1, kAlle, "a");
+  const auto alle = Bauteile(o.dateien, "BOREALX").suche(1, kAlle, Suchmuster("a"));
   ASSERT_EQ(alle.size(), 1U);
   EXPECT_EQ(alle[0].Felder[0], "a");
 }
@@ -170,7 +170,7 @@ TEST(Bauteile, NoMoreRecordsThanAskedForAreRead) {
   EXPECT_EQ(erste.front(), 2);
   EXPECT_EQ(erste.back(), 49);
   EXPECT_EQ(gefunden(o, 100, "m").back(), 120);
-  EXPECT_TRUE(Bauteile(o.dateien, "BOREALX").suche(2, 0, "m").empty());
+  EXPECT_TRUE(Bauteile(o.dateien, "BOREALX").suche(2, 0, Suchmuster("m")).empty());
 }
 
 TEST(Bauteile, TheTypesRecordIsNoComponentAndEndsNothing) {
@@ -187,7 +187,7 @@ TEST(Bauteile, ARecordThatIsCutOffReadsWithBlanksAndIsToldOnce) {
   o.schreib("BOREALXN.rdm",
             Katalogordner::satz({"a"}) + "last one" + std::string(32, ' ') + "maker");
   for (int mal = 0; mal < 2; ++mal) {
-    const auto alle = Bauteile(o.dateien, "BOREALX").suche(1, kAlle, "");
+    const auto alle = Bauteile(o.dateien, "BOREALX").suche(1, kAlle, Suchmuster(""));
     ASSERT_EQ(alle.size(), 2U);
     EXPECT_EQ(alle[1].Felder[0], "last one");
     EXPECT_EQ(alle[1].Felder[1], "maker");
