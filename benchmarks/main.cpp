@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue.h"
 #include "diagram.h"
 #include "measurement.h"
 #include "plant.h"
@@ -144,6 +145,7 @@ bool tabelle(std::map<std::string, double>& ms) {
     alles = alles && verhaeltnis >= 50;
   }
   for (const Diagrammfall& fall : Diagrammfaelle) pruefe(fall.name, ms[fall.name], "ms", 1);
+  pruefe("catalogue search over 10,000 records", ms["suchen"], "ms", 50);
   pruefe("measurement: load and evaluate 8640 rows", ms["auswerten"], "ms", 500);
   pruefe("live sample (parse, kernel, append) without the sync", ms["proben"] / kProben, "ms", 2);
   zeile("  the same with the row synced to the disk", text(ms["proben auf Platte"] / kProben, "ms"),
@@ -203,6 +205,10 @@ int laufen(int argc, char** argv) {
         fall.name,
         [&diagramme, &fall] { benchmark::DoNotOptimize(Diagramm_rechnen(diagramme, fall)); }, 11);
   }
+  Katalogsuche katalog;
+  gleich = katalog.alle() == Katalogsuche::Bauteilzahl && katalog.suchen() == 1 && gleich;
+  messen(
+      "suchen", [&katalog] { benchmark::DoNotOptimize(katalog.suchen()); }, 11);
   Messlauf auswertung(false), proben(false), gesichert(true);
   auswertung.vorbereiten(kZeilen);
   gleich = auswertung.laden_und_rechnen() == kZeilen && gleich;
