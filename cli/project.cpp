@@ -92,8 +92,8 @@ void oeffnen(Sitzung& sitzung, const Wuensche& w) {
   if (w.datei != kArbeitsprojekt_Zeichen) {
     const std::string pfad = projektpfad(sitzung, w.datei);
     const auto kopf = projektkopf(p.ablage, pfad);
-    if (kopf && (!Lastdatei(kopf->tag).empty() || Modul_mit_Park(kopf->tag)))
-      return modul_oeffnen(sitzung, pfad, kopf->tag);
+    if (kopf && (!Lastdatei(kopf->Kennung).empty() || Modul_mit_Park(kopf->Kennung)))
+      return modul_oeffnen(sitzung, pfad, kopf->Kennung);
   }
   Projektdaten& projekt = projekt_laden(sitzung, w.datei);
   if (!projekt.Arbeitsprojekt_Schreiben())
@@ -124,12 +124,12 @@ void auflisten(Sitzung& sitzung, const Wuensche& w) {
   Tabelle tabelle{{"File", "Tag", "Name", "Description"}, {}};
   for (const std::string& datei : ablage.liste(ordner, kEndung)) {
     const auto kopf = projektkopf(ablage, ordner + datei);
-    if (!kopf || (!w.alle && kopf->tag != w.tag)) continue;
+    if (!kopf || (!w.alle && kopf->Kennung != w.tag)) continue;
     json.push_back({{"file", datei},
-                    {"tag", kopf->tag},
-                    {"name", kopf->name},
-                    {"description", kopf->beschreibung}});
-    tabelle.zeilen.push_back({datei, kopf->tag, kopf->name, kopf->beschreibung});
+                    {"tag", kopf->Kennung},
+                    {"name", kopf->ProjektNam},
+                    {"description", kopf->ProBeschr}});
+    tabelle.zeilen.push_back({datei, kopf->Kennung, kopf->ProjektNam, kopf->ProBeschr});
   }
   for (const std::string& datei : w.alle ? parks(ablage, ordner) : std::vector<std::string>()) {
     json.push_back({{"file", datei}, {"tag", "park"}, {"name", ""}, {"description", ""}});

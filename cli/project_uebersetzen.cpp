@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "project.h"
 #include "projektwahl.h"
@@ -11,21 +10,18 @@ namespace polarkreis::cli {
 
 namespace {
 
-constexpr std::size_t kKopfitems = 4;
-
 // A project file as it stands: what is behind the known items belongs to it, too.
 struct Projektdatei {
-  std::vector<std::string> kopf, items;
+  Projektkopf kopf;
+  std::vector<std::string> items;
   Projektsatz satz;
 };
 
 Projektdatei zerlegt(std::string_view inhalt, bool mit_kopf) {
   Projektdatei datei;
   ItemLeser leser(inhalt);
-  std::string item;
-  while ((mit_kopf ? datei.kopf.size() < kKopfitems : false) && leser.lies(item))
-    datei.kopf.push_back(item);
-  while (leser.lies(item)) datei.items.push_back(item);
+  if (mit_kopf) datei.kopf = Projektkopf_lesen(leser);
+  for (std::string item; leser.lies(item);) datei.items.push_back(item);
   const auto felder = Projektfelder();
   for (std::size_t i = 0; i < std::min(datei.items.size(), felder.size()); ++i)
     datei.satz.*felder[i].feld = datei.items[i];
@@ -34,8 +30,9 @@ Projektdatei zerlegt(std::string_view inhalt, bool mit_kopf) {
 
 std::string zusammengesetzt(const Projektdatei& datei) {
   std::string inhalt;
-  if (!datei.kopf.empty())
-    zeile_anhaengen(inhalt, {datei.kopf[0], datei.kopf[1], datei.kopf[2], datei.kopf[3]});
+  const Projektkopf& kopf = datei.kopf;
+  if (kopf.gelesen > 0)
+    Projektkopf_anhaengen(inhalt, kopf.ProjektNam, kopf.ProBeschr, kopf.Kennung);
   const auto felder = Projektfelder();
   for (std::size_t i = 0; i < datei.items.size(); ++i)
     zeile_anhaengen(inhalt, {i < felder.size() ? datei.satz.*felder[i].feld : datei.items[i]});

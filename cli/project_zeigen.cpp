@@ -45,18 +45,18 @@ void ableitung_anhaengen(Tabelle& tabelle, const Ableitung& ableitung) {
 }
 
 // A module's file: the heading, and how much stands behind it.
-void modul_zeigen(const Projektkopf& kopf, bool json) {
+void modul_zeigen(const Dateikopf& kopf, bool json) {
   if (json) {
-    drucke(Json{{"tag", kopf.tag},
-                {"name", kopf.name},
-                {"description", kopf.beschreibung},
+    drucke(Json{{"tag", kopf.Kennung},
+                {"name", kopf.ProjektNam},
+                {"description", kopf.ProBeschr},
                 {"lines", kopf.zeilen}});
     return;
   }
   Tabelle tabelle;
-  tabelle.zeilen = {{"Module", kopf.tag},
-                    {"Name", kopf.name},
-                    {"Description", kopf.beschreibung},
+  tabelle.zeilen = {{"Module", kopf.Kennung},
+                    {"Name", kopf.ProjektNam},
+                    {"Description", kopf.ProBeschr},
                     {"Lines behind the heading", std::to_string(kopf.zeilen)}};
   drucke(tabelle);
 }
@@ -141,7 +141,7 @@ void project_show(Sitzung& sitzung, const std::string& datei, bool json) {
   if (datei != kArbeitsprojekt_Zeichen) {
     const std::string pfad = projektpfad(sitzung, datei);
     const auto kopf = projektkopf(sitzung.programm().ablage, pfad);
-    if (kopf && ist_modul(kopf->tag)) return modul_zeigen(*kopf, json);
+    if (kopf && ist_modul(kopf->Kennung)) return modul_zeigen(*kopf, json);
   }
   projekt_zeigen(projekt_laden(sitzung, datei), json);
 }

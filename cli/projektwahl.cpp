@@ -20,7 +20,6 @@ constexpr std::string_view kTag = "SIM_PRO";
 constexpr int kNummer = 1;
 // Far above any project: a file beyond it is none, and is not read.
 constexpr std::int64_t kGroesse_hoechstens = 16'000'000;
-constexpr int kKopfitems = 4;
 // Items 36 to 46 came later: a file without them is old, not damaged.
 constexpr int kAlte_Items = 35;
 
@@ -32,12 +31,9 @@ bool ist_arbeitsprojekt(const std::string& name) {
   return name.empty() || name == kArbeitsprojekt_Zeichen;
 }
 
-Projektkopf kopf_aus(const std::string& inhalt) {
-  Projektkopf kopf;
-  std::string unbenutzt;
+Dateikopf kopf_aus(const std::string& inhalt) {
   ItemLeser leser(inhalt);
-  for (std::string* item : {&kopf.name, &kopf.beschreibung, &unbenutzt, &kopf.tag})
-    *item = leser.lies();
+  Dateikopf kopf{Projektkopf_lesen(leser)};
   const auto enden = std::ranges::count(inhalt, '\n');
   const auto zeilen = enden + (inhalt.ends_with('\n') ? 0 : 1);
   kopf.zeilen = static_cast<std::size_t>(std::max<std::ptrdiff_t>(zeilen - 1, 0));
@@ -60,12 +56,12 @@ void items_pruefen(const std::string& inhalt, int kopfitems, const std::string& 
           " items; the others are empty or take their fallbacks.");
 }
 
-void tag_pruefen(const std::string& pfad, const Projektkopf& kopf) {
-  if (kopf.tag == kTag) return;
-  const bool modul = !kopf.tag.empty() && kopf.tag.size() <= 8 &&
-                     std::ranges::all_of(kopf.tag, [](unsigned char c) { return c > ' '; });
-  throw Abbruch(modul ? "The file \"" + pfad + "\" is a project of another module (\"" + kopf.tag +
-                            "\"), not of the energy simulation (\"SIM_PRO\")."
+void tag_pruefen(const std::string& pfad, const Dateikopf& kopf) {
+  if (kopf.Kennung == kTag) return;
+  const bool modul = !kopf.Kennung.empty() && kopf.Kennung.size() <= 8 &&
+                     std::ranges::all_of(kopf.Kennung, [](unsigned char c) { return c > ' '; });
+  throw Abbruch(modul ? "The file \"" + pfad + "\" is a project of another module (\"" +
+                            kopf.Kennung + "\"), not of the energy simulation (\"SIM_PRO\")."
                       : "The file \"" + pfad +
                             "\" is no project: its heading doesn't hold the tag \"SIM_PRO\". It "
                             "may be cut off or of another kind.");
@@ -82,7 +78,7 @@ void ohne_kopf_laden(Projektdaten& projekt, const std::string& pfad) {
 
 }  // namespace
 
-std::optional<Projektkopf> projektkopf(Ablage& ablage, const std::string& pfad) {
+std::optional<Dateikopf> projektkopf(Ablage& ablage, const std::string& pfad) {
   if (!ablage.vorhanden(pfad) || ablage.Dateigroesse(pfad) > kGroesse_hoechstens) return {};
   const std::optional<std::string> inhalt = ablage.lies_ganz(pfad);
   if (!inhalt) return {};
@@ -159,7 +155,7 @@ Projektdaten& projekt_laden(Sitzung& sitzung, const std::string& name) {
     return p.projekt;
   }
   tag_pruefen(pfad, kopf_aus(inhalt));
-  items_pruefen(inhalt, kKopfitems, datei);
+  items_pruefen(inhalt, Projektkopf::Items, datei);
   if (!p.projekt.Projekt_Oeffnen(kTag, pfad))
     throw Abbruch("The project \"" + name + "\" can't be read.");
   return p.projekt;

@@ -12,13 +12,12 @@ namespace polarkreis::cli {
 /// Stands for the working project where a command needs a file.
 inline constexpr std::string_view kArbeitsprojekt_Zeichen = "-";
 
-/// What a project file's first line tells.
-struct Projektkopf {
-  std::string name, beschreibung, tag;
+/// The heading of a project file, and how much stands behind it.
+struct Dateikopf : Projektkopf {
   std::size_t zeilen = 0;  ///< lines behind the heading
 };
 /// The heading of a file; nothing where it is absent, too large or can't be read.
-std::optional<Projektkopf> projektkopf(Ablage& ablage, const std::string& pfad);
+std::optional<Dateikopf> projektkopf(Ablage& ablage, const std::string& pfad);
 
 /// The path that a name on the command line stands for: a bare name is sought in the current
 /// folder, then in the data folder. Throws `Abbruch` where there is no such file, where it is a

@@ -3,15 +3,14 @@
 #include <array>
 #include <optional>
 
-#include "shell/items.h"
 #include "shell/platte.h"
 #include "shell/text.h"
+#include "simulation/projektsatz.h"
 
 namespace polarkreis {
 
 namespace {
 
-constexpr int Kopfitems = 4;
 constexpr std::string_view Endung = ".PRJ";
 
 // As bytes, because the lines must come back as they stand, whatever their encoding.
@@ -30,7 +29,7 @@ std::size_t kopf_ende(std::string_view text) {
     if (text[i] == '"') zitat = !zitat;
     if (zitat || (text[i] != ',' && text[i] != '\n')) continue;
     ++items;
-    if (text[i] == '\n' && items >= Kopfitems) return i + 1;
+    if (text[i] == '\n' && items >= Projektkopf::Items) return i + 1;
   }
   return text.size();
 }
@@ -46,10 +45,7 @@ bool nur_leerraum(std::string_view text) {
 std::string typmarke(std::string_view kopf) {
   const std::string text = als_utf8(std::string(kopf));
   ItemLeser leser(text);
-  std::string item;
-  for (int n = 1; n <= Kopfitems; ++n)
-    if (!leser.lies(item)) return {};
-  return item;
+  return Projektkopf_lesen(leser).Kennung;
 }
 
 }  // namespace
@@ -95,7 +91,7 @@ bool Lastprojekt_Speichern(Ablage& ablage, std::string_view projektdatei, std::s
     return false;
   }
   std::string inhalt;
-  zeile_anhaengen(inhalt, {name, beschreibung, "", marke});
+  Projektkopf_anhaengen(inhalt, name, beschreibung, marke);
   return ablage.schreib_ganz(projektdatei, inhalt + *zeilen);
 }
 

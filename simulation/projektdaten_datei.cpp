@@ -28,18 +28,6 @@ std::string mit_Trenner(std::string_view ordner) {
   return ergebnis;
 }
 
-/// The header line of a project file.
-struct Kopf {
-  std::string ProjektNam, ProBeschr, unbenutzt, Kennung;
-};
-
-Kopf Kopf_lesen(Ablage& ablage, int nummer) {
-  Kopf kopf;
-  for (std::string* item : {&kopf.ProjektNam, &kopf.ProBeschr, &kopf.unbenutzt, &kopf.Kennung})
-    *item = ablage.Eingabe(nummer);
-  return kopf;
-}
-
 bool andere_Sprache(std::string_view projekt, std::string_view aktuell) {
   return zeichenzahl(getrimmt(projekt)) == 3 && !gleich(projekt, aktuell);
 }
@@ -119,8 +107,10 @@ bool Projektdaten::Projekt_Speichern(std::string_view tag, std::string_view ordn
   if (getrimmt(Dateiname_aktuell).empty()) return false;
   const std::string ziel = mit_Trenner(ordner);
   const std::string pfad = ziel + Dateiname_aktuell;
+  std::string kopf;
+  Projektkopf_anhaengen(kopf, ProjektNam, ProBeschr, tag);
   ablage.Datei_Schreiben(pfad, kNummer);
-  ablage.Ausgabe(kNummer, {ProjektNam, ProBeschr, "", tag});
+  ablage.Ausgabe_Text(kNummer, kopf);
   if (!Projekt_Schreiben(pfad, kNummer, 1)) return false;
   Projektname_aktuell = ProjektNam;
   Projektordner = ziel;
@@ -131,7 +121,8 @@ bool Projektdaten::Projekt_Oeffnen(std::string_view tag, std::string_view name) 
   const std::string pfad = Projektdatei_Pfad(ablage, name);
   if (!ablage.vorhanden(pfad)) return false;
   ablage.Datei_Lesen(pfad, kNummer, false);
-  const Kopf kopf = Kopf_lesen(ablage, kNummer);
+  const Projektkopf kopf =
+      Projektkopf_lesen([this](std::string& item) { return ablage.Eingabe(kNummer, item); });
   if (!Tag_passt(kopf.Kennung, tag)) {
     ablage.Datei_Schliessen(kNummer);
     return false;

@@ -68,4 +68,20 @@ const Projektfeld* Projektfeld_finden(std::string_view name) {
   return feld == kFelder.end() ? nullptr : &*feld;
 }
 
+Projektkopf Projektkopf_lesen(const std::function<bool(std::string& item)>& naechstes) {
+  Projektkopf kopf;
+  for (std::string* item : {&kopf.ProjektNam, &kopf.ProBeschr, &kopf.unbenutzt, &kopf.Kennung})
+    kopf.gelesen += naechstes(*item) ? 1 : 0;
+  return kopf;
+}
+
+Projektkopf Projektkopf_lesen(ItemLeser& leser) {
+  return Projektkopf_lesen([&leser](std::string& item) { return leser.lies(item); });
+}
+
+void Projektkopf_anhaengen(std::string& target, std::string_view ProjektNam,
+                           std::string_view ProBeschr, std::string_view Kennung) {
+  zeile_anhaengen(target, {ProjektNam, ProBeschr, "", Kennung});
+}
+
 }  // namespace polarkreis

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
+
+#include "shell/items.h"
 
 namespace polarkreis {
 
@@ -71,5 +74,20 @@ inline constexpr int Projektfelder_Zahl = 46;
 std::span<const Projektfeld> Projektfelder();
 /// The item of that name, or nothing.
 const Projektfeld* Projektfeld_finden(std::string_view name);
+
+/// The heading of a project file: the four items before those of the module.
+struct Projektkopf {
+  static constexpr int Items = 4;
+  std::string ProjektNam, ProBeschr;
+  std::string unbenutzt;  ///< always written empty
+  std::string Kennung;    ///< tag of the module; old files of two modules have none
+  int gelesen = 0;        ///< items that were there; the others are empty
+};
+/// Takes the heading off what `naechstes` gives: the next item, or false and its target as it was.
+Projektkopf Projektkopf_lesen(const std::function<bool(std::string& item)>& naechstes);
+Projektkopf Projektkopf_lesen(ItemLeser& leser);
+/// Appends the heading's line.
+void Projektkopf_anhaengen(std::string& target, std::string_view ProjektNam,
+                           std::string_view ProBeschr, std::string_view Kennung);
 
 }  // namespace polarkreis

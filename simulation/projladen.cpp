@@ -15,7 +15,6 @@ namespace {
 
 constexpr std::string_view Titel = "Polarkreis";
 constexpr std::string_view Parkdatei = "VerDpark.dat";
-constexpr std::size_t Kopfitems = 4;
 
 std::string_view ohne_ordner(std::string_view datei) {
   const std::size_t trenner = datei.find_last_of("/\\");
@@ -26,16 +25,12 @@ bool ist_Projektendung(std::string_view endung) {
   return gross(endung) == ".PRJ";
 }
 
-// Name, description, an unused text and the tag; a file that is too short leaves the rest empty.
-std::optional<std::array<std::string, Kopfitems>> kopf_lesen(Ablage& ablage,
-                                                             const std::string& datei) {
+std::optional<Projektkopf> kopf_lesen(Ablage& ablage, const std::string& datei) {
   if (!ablage.vorhanden(datei)) return std::nullopt;
   const std::optional<std::string> text = ablage.lies_ganz(datei);
   if (!text) return std::nullopt;
-  std::array<std::string, Kopfitems> kopf;
   ItemLeser leser(*text);
-  for (std::string& item : kopf) leser.lies(item);
-  return kopf;
+  return Projektkopf_lesen(leser);
 }
 
 std::string parkdatei_von(std::string_view projektdatei) {
@@ -80,7 +75,8 @@ void ProjLaden::liste_lesen() {
   if (ist_Import(modus_)) return messdateien_listen();
   for (const std::string& datei : ablage_.liste(ordner_, ".prj")) {
     const auto kopf = kopf_lesen(ablage_, ordner_ + datei);
-    if (kopf && Tag_passt((*kopf)[3], tag_)) eintraege.push_back({datei, (*kopf)[0], (*kopf)[1]});
+    if (kopf && Tag_passt(kopf->Kennung, tag_))
+      eintraege.push_back({datei, kopf->ProjektNam, kopf->ProBeschr});
   }
 }
 

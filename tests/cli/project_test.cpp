@@ -158,6 +158,16 @@ TEST(ProjectTranslate, ThereAndBackIsTheSameFile) {
   EXPECT_EQ(daten.lies(kMarkt), englisch);
 }
 
+TEST(ProjectTranslate, TheThirdItemOfTheHeadingIsWrittenEmpty) {
+  const Datenkopie daten;
+  std::string inhalt = daten.lies(kMarkt);
+  const std::size_t ort = inhalt.find("\"\",\"SIM_PRO\"");
+  ASSERT_NE(ort, std::string::npos);
+  daten.schreib(kMarkt, inhalt.replace(ort, 2, "\"left over\""));
+  ASSERT_EQ(daten.rufe({"project", "translate", kMarkt, "--to", "GER"}).status, 0);
+  EXPECT_TRUE(hat(daten.lies(kMarkt), ",\"\",\"SIM_PRO\"\r\n"));
+}
+
 TEST(ProjectTranslate, TheWorkingProjectKeepsItsForm) {
   const Datenkopie daten;
   const std::string englisch = daten.lies("Temp_Sim.dat");

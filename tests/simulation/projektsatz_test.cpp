@@ -56,3 +56,30 @@ TEST(Projektsatz, UnknownNameIsNoItem) {
   EXPECT_EQ(Projektfeld_finden("HeizCheck"), nullptr);
   EXPECT_EQ(Projektfeld_finden(""), nullptr);
 }
+
+TEST(Projektkopf, IsTheFirstFourItemsHoweverTheyStand) {
+  for (const char* text : {"\"Dairy\",\"milk, \"\"raw\"\"\",\"x\",\"KOMP\"\r\n\"R717\"\r\n",
+                           "Dairy\n\"milk, \"\"raw\"\"\"\nx\nKOMP\nR717\n"}) {
+    ItemLeser leser(text);
+    const Projektkopf kopf = Projektkopf_lesen(leser);
+    EXPECT_EQ(kopf.ProjektNam, "Dairy");
+    EXPECT_EQ(kopf.ProBeschr, "milk, \"raw\"");
+    EXPECT_EQ(kopf.Kennung, "KOMP");
+    EXPECT_EQ(kopf.gelesen, Projektkopf::Items);
+    EXPECT_EQ(leser.lies(), "R717") << "what is behind it is left";
+  }
+}
+
+TEST(Projektkopf, OfAShortFileIsEmptyFromItsEndOn) {
+  ItemLeser leser("\"Dairy\",\"milk\"");
+  const Projektkopf kopf = Projektkopf_lesen(leser);
+  EXPECT_EQ(kopf.ProBeschr, "milk");
+  EXPECT_EQ(kopf.Kennung, "");
+  EXPECT_EQ(kopf.gelesen, 2);
+}
+
+TEST(Projektkopf, IsWrittenOnOneLineWithItsThirdItemEmpty) {
+  std::string text;
+  Projektkopf_anhaengen(text, "Dairy", "milk, \"raw\"", "SIM_PRO");
+  EXPECT_EQ(text, "\"Dairy\",\"milk, \"\"raw\"\"\",\"\",\"SIM_PRO\"\r\n");
+}
