@@ -173,6 +173,7 @@ constexpr std::array<double, 9> Ganze = {1, 2, 3, 4, 5, 6, 7, 8, 9};
 /// What of a decade gets a text, from much room to little.
 constexpr std::array<double, 10> Mit_Halben = {1, 1.5, 2, 3, 4, 5, 6, 7, 8, 9};
 constexpr std::array<double, 8> Ausgewaehlte = {1, 1.5, 2, 3, 4, 5, 6, 8};
+constexpr std::array<double, 6> Jede_zweite = {1, 2, 3, 4, 6, 8};
 constexpr std::array<double, 3> Wenige = {1, 2, 5};
 constexpr std::array<double, 1> Zehner = {1};
 
@@ -181,7 +182,7 @@ std::vector<Teilstrich> Dekadenteilung(const Achsmass& mass, double schriftgroes
   if (fein.size() < 5) return ebene_Teilung(mass, schriftgroesse);
   for (const std::span<const double> vielfache :
        {std::span<const double>(Mit_Halben), std::span<const double>(Ausgewaehlte),
-        std::span<const double>(Wenige)}) {
+        std::span<const double>(Jede_zweite), std::span<const double>(Wenige)}) {
     const std::vector<Teilstrich> striche = Dekaden(mass, vielfache, true);
     if (passen(mass, striche, schriftgroesse)) return vereint(striche, fein);
   }

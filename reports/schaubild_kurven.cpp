@@ -34,9 +34,10 @@ Strich Strich_der_Art(Kurvenart art) {
 
 constexpr std::array<std::string_view, 3> Prozessfarben = {"#0072b2", "#882255", "#806600"};
 
-/// How much it disturbs to write over a curve.
+/// How much it disturbs to write over a curve. A text may cross a process line at worst, and never
+/// lies on one.
 double Gewicht(Kurvenart art) {
-  if (art == Kurvenart::Prozess) return 30;
+  if (art == Kurvenart::Prozess) return Platzbelegung::Vergeben / 10;
   return art == Kurvenart::Grenze ? 4 : 1;
 }
 
@@ -82,7 +83,7 @@ std::vector<Richtungsort> Kandidaten(const std::vector<Linienzug>& stuecke, Kurv
         continue;
       }
       for (const double seite : {-1, 1})
-        orte.push_back({verschoben(ort, 0, seite * Kurvenschrift), ort.winkel});
+        orte.push_back({verschoben(ort, 0, seite * (Kurvenschrift + 1)), ort.winkel});
     }
   }
   if (orte.empty())
@@ -98,7 +99,7 @@ std::optional<Richtungsort> bester_Ort(const std::vector<Richtungsort>& orte, do
   double geringste = Platzbelegung::Vergeben;
   double rang = 0;
   for (const Richtungsort& ort : orte) {
-    const double kosten = belegung.Kosten(ort, breite + 8, Kurvenschrift + 4) + rang +
+    const double kosten = belegung.Kosten(ort, breite + 12, Kurvenschrift + 4) + rang +
                           Steil * std::abs(ort.winkel) / 90;
     if (kosten < geringste) {
       geringste = kosten;

@@ -77,10 +77,11 @@ Knickzug mit_Ecken(const Linienzug& zug) {
   return ergebnis;
 }
 
-/// The direction in which a text isn't upside down; an upright one is read upward.
+/// The direction in which a text isn't upside down; an upright one is read upward, and so is one
+/// that is upright but for its last digit.
 double lesbar(double winkel) {
-  if (winkel > 80) return winkel - 180;
-  return winkel <= -100 ? winkel + 180 : winkel;
+  if (winkel > 88) return winkel - 180;
+  return winkel <= -92 ? winkel + 180 : winkel;
 }
 
 /// Neighbour of an end of a stretch; where there is none, the stretch goes on as it is.

@@ -125,6 +125,8 @@ TEST(Teilstriche, MinorLinesPartTheStepsEvenly) {
 }
 
 TEST(Teilstriche, DecadesWithAsManyTextsAsFit) {
+  EXPECT_EQ(Texte(senkrecht(true, 1, 100, 480)),
+            (Liste{"1", "2", "3", "4", "6", "8", "10", "20", "30", "40", "60", "80", "100"}));
   EXPECT_EQ(Texte(senkrecht(true, 0.5, 60)),
             (Liste{"0.5", "0.6", "0.8", "1", "1.5", "2", "3", "4", "5", "6", "8", "10", "15", "20",
                    "30", "40", "50", "60"}));

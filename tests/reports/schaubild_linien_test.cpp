@@ -129,6 +129,9 @@ TEST(Textorte, TheMiddleComesFirstAndNothingIsUpsideDown) {
   const auto upright = Textorte({{0, 0}, {0, 100}}, 40);
   ASSERT_FALSE(upright.empty());
   EXPECT_DOUBLE_EQ(upright[0].winkel, -90);
+  const auto steep = Textorte({{0, 0}, {10, 100}}, 40);
+  ASSERT_FALSE(steep.empty());
+  EXPECT_NEAR(steep[0].winkel, 84.29, 0.01);
   const auto slope = Textorte({{0, 100}, {100, 0}}, 40);
   ASSERT_FALSE(slope.empty());
   EXPECT_DOUBLE_EQ(slope[0].winkel, -45);

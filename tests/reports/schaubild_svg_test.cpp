@@ -215,6 +215,19 @@ TEST(SchaubildSvg, ALabelBesidesAShortCurveAndNoneWithoutAPlace) {
   EXPECT_LT(texte[0].zahl("x") + Textbreite("beside", 11) / 2, im_Rahmen(leser, 1, 0).x);
 }
 
+TEST(SchaubildSvg, ALabelNeverLiesOnAProcess) {
+  Schaubild bild = gerades_Bild();
+  bild.Kurven = {Linie(Kurvenart::Isotherme, {{0, 50}, {10, 50}}, "", "40 °C"),
+                 Linie(Kurvenart::Isotherme, {{2, 70}, {8, 70}}, "", "50 °C"),
+                 Linie(Kurvenart::Prozess, {{9, 50}, {2, 50}, {2, 70}, {8, 70}}, "", "cycle")};
+  const SvgLeser leser = gelesen(bild);
+  const auto texte = leser.alle("text", "Kurventexte");
+  ASSERT_EQ(texte.size(), 2U);  // none at 50 °C
+  EXPECT_EQ(texte[0].text, "40 °C");
+  EXPECT_LT(texte[0].zahl("x") + Textbreite("40 °C", 11) / 2, im_Rahmen(leser, 0.2, 0).x);
+  EXPECT_EQ(texte[1].text, "cycle");
+}
+
 TEST(SchaubildSvg, LabelsOfNeighboursDontCoverOneAnother) {
   Schaubild bild = gerades_Bild();
   for (int n = 0; n < 12; ++n) {
