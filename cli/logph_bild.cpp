@@ -66,7 +66,9 @@ Schaubild logph_Bild(const logp_H& form, const Logp_Linien& linien, const Einhei
                      "t [" + std::string(einheiten.Temperatureinheit()) + "]", "h [kJ/kg]"};
   mittel_zeichnen(bild, linien, einheiten);
   kreis_zeichnen(bild, form.punkte(), einheiten);
-  for (const Druckfigur& figur : form.figuren()) bild.Texte.push_back(figur.Text());
+  for (const Druckfigur& figur : form.figuren())
+    bild.Texte.push_back(std::string(figur.Literal) + "\t" + figur.Wert +
+                         std::string(figur.Einheit));
   return bild;
 }
 

@@ -30,22 +30,22 @@ void fuer_jeden_Teil(const Richtungsort& mitte, double breite, double hoehe, Tun
 }  // namespace
 
 Platzbelegung::Platzbelegung(const Bildflaeche& flaeche)
-    : Gebiet(flaeche),
-      Spalten(static_cast<std::size_t>(flaeche.breite / Feldbreite)),
-      Zeilen(static_cast<std::size_t>(flaeche.hoehe / Feldbreite)),
-      Felder(Spalten * Zeilen, 0) {}
+    : gebiet_(flaeche),
+      spalten_(static_cast<std::size_t>(flaeche.breite / Feldbreite)),
+      zeilen_(static_cast<std::size_t>(flaeche.hoehe / Feldbreite)),
+      felder_(spalten_ * zeilen_, 0) {}
 
 std::size_t Platzbelegung::Feld(const Bildort& ort) const {
-  const double x = ort.x - Gebiet.x, y = ort.y - Gebiet.y;
-  if (x < 0 || y < 0) return Felder.size();
+  const double x = ort.x - gebiet_.x, y = ort.y - gebiet_.y;
+  if (x < 0 || y < 0) return felder_.size();
   const auto spalte = static_cast<std::size_t>(x / Feldbreite);
   const auto zeile = static_cast<std::size_t>(y / Feldbreite);
-  return spalte < Spalten && zeile < Zeilen ? zeile * Spalten + spalte : Felder.size();
+  return spalte < spalten_ && zeile < zeilen_ ? zeile * spalten_ + spalte : felder_.size();
 }
 
 void Platzbelegung::belege(const Bildort& ort, double gewicht) {
   const std::size_t feld = Feld(ort);
-  if (feld < Felder.size()) Felder[feld] = std::max(Felder[feld], gewicht);
+  if (feld < felder_.size()) felder_[feld] = std::max(felder_[feld], gewicht);
 }
 
 void Platzbelegung::belege(const Linienzug& zug, double gewicht) {
@@ -67,7 +67,7 @@ double Platzbelegung::Kosten(const Richtungsort& mitte, double breite, double ho
   double summe = 0;
   fuer_jeden_Teil(mitte, breite, hoehe, [&](const Bildort& ort) {
     const std::size_t feld = Feld(ort);
-    summe += feld < Felder.size() ? Felder[feld] : Vergeben;
+    summe += feld < felder_.size() ? felder_[feld] : Vergeben;
   });
   return summe;
 }

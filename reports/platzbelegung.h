@@ -29,9 +29,9 @@ class Platzbelegung {
   std::size_t Feld(const Bildort& ort) const;
   void belege(const Bildort& ort, double gewicht);
 
-  Bildflaeche Gebiet;
-  std::size_t Spalten, Zeilen;
-  std::vector<double> Felder;
+  Bildflaeche gebiet_;
+  std::size_t spalten_, zeilen_;
+  std::vector<double> felder_;
 };
 
 }  // namespace polarkreis

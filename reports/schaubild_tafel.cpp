@@ -18,24 +18,24 @@ constexpr double Kastenabstand = 12;
 
 class Legendenkasten : public Tafelkasten {
  public:
-  explicit Legendenkasten(const Schaubild& bild) : Eintraege(Legende(bild.Kurven)) {}
+  explicit Legendenkasten(const Schaubild& bild) : eintraege_(Legende(bild.Kurven)) {}
 
   double Wunschbreite() const override {
     double breiteste = 0;
-    for (const Legendeneintrag& eintrag : Eintraege)
+    for (const Legendeneintrag& eintrag : eintraege_)
       breiteste = std::max(breiteste, Textbreite(eintrag.text, Tafelschrift));
     return breiteste > 0 ? Textanfang + breiteste : 0;
   }
-  void richte_ein(double verfuegbar) override { breite = verfuegbar; }
-  double Hoehe() const override { return Zeilenhoehe * static_cast<double>(Eintraege.size()); }
+  void richte_ein(double verfuegbar) override { breite_ = verfuegbar; }
+  double Hoehe() const override { return Zeilenhoehe * static_cast<double>(eintraege_.size()); }
 
   void zeichne(Svg_Blatt& blatt, const Bildort& ecke) const override {
     blatt.Gruppe("Legende");
     double y = ecke.y + Zeilenhoehe / 2;
-    for (const Legendeneintrag& eintrag : Eintraege) {
+    for (const Legendeneintrag& eintrag : eintraege_) {
       blatt.Linie({ecke.x, y}, {ecke.x + Strichlaenge, y}, eintrag.strich);
       blatt.Text({ecke.x + Textanfang, y},
-                 gekuerzt(eintrag.text, breite - Textanfang, Tafelschrift), {Tafelschrift});
+                 gekuerzt(eintrag.text, breite_ - Textanfang, Tafelschrift), {Tafelschrift});
       y += Zeilenhoehe;
     }
     blatt.Gruppe_Ende();
@@ -44,8 +44,8 @@ class Legendenkasten : public Tafelkasten {
  private:
   static constexpr double Zeilenhoehe = 19, Strichlaenge = 34, Textanfang = 44;
 
-  std::vector<Legendeneintrag> Eintraege;
-  double breite = 0;
+  std::vector<Legendeneintrag> eintraege_;
+  double breite_ = 0;
 };
 
 class Tabellenkasten : public Tafelkasten {
@@ -54,8 +54,8 @@ class Tabellenkasten : public Tafelkasten {
     if (bild.Marken.empty()) return;
     teile_Kopf(bild.Markenkopf);
     for (const Marke& marke : bild.Marken) {
-      Zeilen.push_back({marke.Nummer});
-      Zeilen.back().insert(Zeilen.back().end(), marke.Zellen.begin(), marke.Zellen.end());
+      zeilen_.push_back({marke.Nummer});
+      zeilen_.back().insert(zeilen_.back().end(), marke.Zellen.begin(), marke.Zellen.end());
     }
     miss_Spalten();
   }
@@ -64,41 +64,41 @@ class Tabellenkasten : public Tafelkasten {
 
   /// Smaller letters first, then the widest columns give way; a column of texts takes what is left.
   void richte_ein(double verfuegbar) override {
-    breite = verfuegbar;
-    if (Wunschbreite() > breite) {
-      schriftgroesse = Kleine_Schrift;
+    breite_ = verfuegbar;
+    if (Wunschbreite() > breite_) {
+      schriftgroesse_ = Kleine_Schrift;
       miss_Spalten();
     }
-    double hoechstens = breite;
-    while (Breite_hoechstens(hoechstens) > breite && hoechstens > 1) --hoechstens;
-    for (Spalte& spalte : Spalten) spalte.breite = std::min(spalte.breite, hoechstens);
-    const auto texte = std::find_if(Spalten.begin() + 1, Spalten.end(),
+    double hoechstens = breite_;
+    while (Breite_hoechstens(hoechstens) > breite_ && hoechstens > 1) --hoechstens;
+    for (Spalte& spalte : spalten_) spalte.breite = std::min(spalte.breite, hoechstens);
+    const auto texte = std::find_if(spalten_.begin() + 1, spalten_.end(),
                                     [](const Spalte& spalte) { return !spalte.rechts; });
-    const double frei = breite - Wunschbreite();
-    if (texte != Spalten.end() && frei > 0) texte->breite += frei;
+    const double frei = breite_ - Wunschbreite();
+    if (texte != spalten_.end() && frei > 0) texte->breite += frei;
   }
 
   double Hoehe() const override {
-    const double kopf = Kopfhoehe * static_cast<double>(Kopf.size());
-    return kopf + (kopf > 0 ? Unter_Kopf : 0) + Zeilenhoehe * static_cast<double>(Zeilen.size());
+    const double kopf = Kopfhoehe * static_cast<double>(kopf_.size());
+    return kopf + (kopf > 0 ? Unter_Kopf : 0) + Zeilenhoehe * static_cast<double>(zeilen_.size());
   }
 
   void zeichne(Svg_Blatt& blatt, const Bildort& ecke) const override {
     blatt.Gruppe("Tabelle");
     double y = ecke.y;
-    for (const std::vector<std::string>& zeile : Kopf) {
+    for (const std::vector<std::string>& zeile : kopf_) {
       zeichne_Zellen(blatt, {ecke.x, y + Kopfhoehe / 2}, zeile, 0,
-                     {schriftgroesse, Anschlag::Anfang, "#555555", true});
+                     {schriftgroesse_, Anschlag::Anfang, "#555555", true});
       y += Kopfhoehe;
     }
-    if (!Kopf.empty()) y += Unter_Kopf;
-    for (const std::vector<std::string>& zeile : Zeilen) {
-      if (y > ecke.y) blatt.Linie({ecke.x, y}, {ecke.x + breite, y}, {"#dddddd", 0.8});
+    if (!kopf_.empty()) y += Unter_Kopf;
+    for (const std::vector<std::string>& zeile : zeilen_) {
+      if (y > ecke.y) blatt.Linie({ecke.x, y}, {ecke.x + breite_, y}, {"#dddddd", 0.8});
       const double mitte = y + Zeilenhoehe / 2;
       const std::string& nummer = zeile.front();
       if (!nummer.empty())
         zeichne_Nummer(blatt, {ecke.x + Nummernbreite(nummer) / 2, mitte}, nummer);
-      zeichne_Zellen(blatt, {ecke.x, mitte}, zeile, 1, {schriftgroesse});
+      zeichne_Zellen(blatt, {ecke.x, mitte}, zeile, 1, {schriftgroesse_});
       y += Zeilenhoehe;
     }
     blatt.Gruppe_Ende();
@@ -121,26 +121,26 @@ class Tabellenkasten : public Tafelkasten {
       oben.push_back(text.substr(0, einheit));
       unten.push_back(einheit == std::string::npos ? "" : text.substr(einheit + 1));
     }
-    if (!oben.empty()) Kopf.push_back(oben);
+    if (!oben.empty()) kopf_.push_back(oben);
     if (std::ranges::any_of(unten, [](const std::string& text) { return !text.empty(); }))
-      Kopf.push_back(unten);
+      kopf_.push_back(unten);
   }
 
   void miss_Spalten() {
-    Spalten.clear();
-    for (const std::vector<std::string>& zeile : Kopf) miss(zeile, true);
-    for (const std::vector<std::string>& zeile : Zeilen) miss(zeile, false);
-    Spalten.front().rechts = false;
+    spalten_.clear();
+    for (const std::vector<std::string>& zeile : kopf_) miss(zeile, true);
+    for (const std::vector<std::string>& zeile : zeilen_) miss(zeile, false);
+    spalten_.front().rechts = false;
   }
 
   void miss(const std::vector<std::string>& zeile, bool kopf) {
-    if (Spalten.size() < zeile.size()) Spalten.resize(zeile.size(), {0, true});
+    if (spalten_.size() < zeile.size()) spalten_.resize(zeile.size(), {0, true});
     for (std::size_t i = 0; i < zeile.size(); ++i) {
       const bool nummer = i == 0 && !kopf;
       const double bedarf =
-          nummer ? Nummernbreite(zeile[i]) : Textbreite(zeile[i], schriftgroesse, kopf);
-      Spalten[i].breite = std::max(Spalten[i].breite, bedarf);
-      if (!kopf && !ist_Zahl(zeile[i])) Spalten[i].rechts = false;
+          nummer ? Nummernbreite(zeile[i]) : Textbreite(zeile[i], schriftgroesse_, kopf);
+      spalten_[i].breite = std::max(spalten_[i].breite, bedarf);
+      if (!kopf && !ist_Zahl(zeile[i])) spalten_[i].rechts = false;
     }
   }
 
@@ -151,14 +151,14 @@ class Tabellenkasten : public Tafelkasten {
 
   double Breite_hoechstens(double hoechstens) const {
     double summe = 0;
-    for (const Spalte& spalte : Spalten) summe += std::min(spalte.breite, hoechstens) + Luft;
+    for (const Spalte& spalte : spalten_) summe += std::min(spalte.breite, hoechstens) + Luft;
     return std::max(0.0, summe - Luft);
   }
 
   void zeichne_Zellen(Svg_Blatt& blatt, Bildort ort, const std::vector<std::string>& zeile,
                       std::size_t ab, Schrift schrift) const {
     for (std::size_t i = 0; i < zeile.size(); ++i) {
-      const Spalte& spalte = Spalten[i];
+      const Spalte& spalte = spalten_[i];
       schrift.anschlag = spalte.rechts ? Anschlag::Ende : Anschlag::Anfang;
       if (i >= ab)
         blatt.Text({ort.x + (spalte.rechts ? spalte.breite : 0), ort.y},
@@ -167,19 +167,19 @@ class Tabellenkasten : public Tafelkasten {
     }
   }
 
-  std::vector<std::vector<std::string>> Kopf, Zeilen;
-  std::vector<Spalte> Spalten;
-  double schriftgroesse = Tafelschrift;
-  double breite = 0;
+  std::vector<std::vector<std::string>> kopf_, zeilen_;
+  std::vector<Spalte> spalten_;
+  double schriftgroesse_ = Tafelschrift;
+  double breite_ = 0;
 };
 
 class Textkasten : public Tafelkasten {
  public:
-  explicit Textkasten(const Schaubild& bild) : Texte(bild.Texte) {}
+  explicit Textkasten(const Schaubild& bild) : texte_(bild.Texte) {}
 
   double Wunschbreite() const override {
     double breiteste = 0;
-    for (const std::string& text : Texte) {
+    for (const std::string& text : texte_) {
       const auto [links, rechts] = geteilt(text);
       const double luft = rechts.empty() ? 0 : 2 * Rand;
       breiteste = std::max(
@@ -189,27 +189,27 @@ class Textkasten : public Tafelkasten {
   }
 
   void richte_ein(double verfuegbar) override {
-    breite = verfuegbar;
-    Zeilen.clear();
-    for (const std::string& text : Texte) {
+    breite_ = verfuegbar;
+    zeilen_.clear();
+    for (const std::string& text : texte_) {
       auto [links, rechts] = geteilt(text);
       const double wertbreite = Textbreite(rechts, Tafelschrift);
-      if (wertbreite > breite / 2) links += ' ' + std::exchange(rechts, {});
+      if (wertbreite > breite_ / 2) links += ' ' + std::exchange(rechts, {});
       const double luft = rechts.empty() ? 0 : wertbreite + Rand;
-      for (const std::string& teil : umbrochen(links, breite - luft, Tafelschrift))
-        Zeilen.push_back({teil, ""});
-      Zeilen.back().rechts = rechts;
+      for (const std::string& teil : umbrochen(links, breite_ - luft, Tafelschrift))
+        zeilen_.push_back({teil, ""});
+      zeilen_.back().rechts = rechts;
     }
   }
 
-  double Hoehe() const override { return Zeilenhoehe * static_cast<double>(Zeilen.size()); }
+  double Hoehe() const override { return Zeilenhoehe * static_cast<double>(zeilen_.size()); }
 
   void zeichne(Svg_Blatt& blatt, const Bildort& ecke) const override {
     blatt.Gruppe("Texte");
     double y = ecke.y + Zeilenhoehe / 2;
-    for (const Zeile& zeile : Zeilen) {
+    for (const Zeile& zeile : zeilen_) {
       blatt.Text({ecke.x, y}, zeile.links, {Tafelschrift});
-      blatt.Text({ecke.x + breite, y}, zeile.rechts, {Tafelschrift, Anschlag::Ende});
+      blatt.Text({ecke.x + breite_, y}, zeile.rechts, {Tafelschrift, Anschlag::Ende});
       y += Zeilenhoehe;
     }
     blatt.Gruppe_Ende();
@@ -229,35 +229,36 @@ class Textkasten : public Tafelkasten {
     return {saubere_Zeile(text.substr(0, tab)), saubere_Zeile(text.substr(tab + 1))};
   }
 
-  const std::vector<std::string>& Texte;
-  std::vector<Zeile> Zeilen;
-  double breite = 0;
+  const std::vector<std::string>& texte_;
+  std::vector<Zeile> zeilen_;
+  double breite_ = 0;
 };
 
 }  // namespace
 
 Tafel::Tafel(const Schaubild& bild) {
   constexpr double Schmalste = 220, Breiteste = 430;
-  Kaesten.push_back(std::make_unique<Legendenkasten>(bild));
-  Kaesten.push_back(std::make_unique<Tabellenkasten>(bild));
-  Kaesten.push_back(std::make_unique<Textkasten>(bild));
-  std::erase_if(Kaesten, [](const auto& kasten) { return kasten->Wunschbreite() <= 0; });
-  if (Kaesten.empty()) return;
-  for (const auto& kasten : Kaesten) breite = std::max(breite, kasten->Wunschbreite() + 2 * Rand);
-  breite = std::clamp(breite, Schmalste, Breiteste);
-  for (const auto& kasten : Kaesten) {
-    kasten->richte_ein(breite - 2 * Rand);
-    hoehe += kasten->Hoehe() + 2 * Innenrand + Kastenabstand;
+  kaesten_.push_back(std::make_unique<Legendenkasten>(bild));
+  kaesten_.push_back(std::make_unique<Tabellenkasten>(bild));
+  kaesten_.push_back(std::make_unique<Textkasten>(bild));
+  std::erase_if(kaesten_, [](const auto& kasten) { return kasten->Wunschbreite() <= 0; });
+  if (kaesten_.empty()) return;
+  for (const auto& kasten : kaesten_)
+    breite_ = std::max(breite_, kasten->Wunschbreite() + 2 * Rand);
+  breite_ = std::clamp(breite_, Schmalste, Breiteste);
+  for (const auto& kasten : kaesten_) {
+    kasten->richte_ein(breite_ - 2 * Rand);
+    hoehe_ += kasten->Hoehe() + 2 * Innenrand + Kastenabstand;
   }
-  hoehe -= Kastenabstand;
+  hoehe_ -= Kastenabstand;
 }
 
 void Tafel::zeichne(Svg_Blatt& blatt, const Bildort& ecke) const {
   double y = ecke.y;
   blatt.Gruppe("Tafel");
-  for (const auto& kasten : Kaesten) {
+  for (const auto& kasten : kaesten_) {
     const double kastenhoehe = kasten->Hoehe() + 2 * Innenrand;
-    blatt.Rechteck({ecke.x, y, breite, kastenhoehe}, {"#ffffff", "#bbbbbb", 1, 3});
+    blatt.Rechteck({ecke.x, y, breite_, kastenhoehe}, {"#ffffff", "#bbbbbb", 1, 3});
     kasten->zeichne(blatt, {ecke.x + Rand, y + Innenrand});
     y += kastenhoehe + Kastenabstand;
   }

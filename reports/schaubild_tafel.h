@@ -28,14 +28,14 @@ class Tafel {
   explicit Tafel(const Schaubild& bild);
 
   /// Its measures; both 0 for an empty one.
-  double Breite() const { return breite; }
-  double Hoehe() const { return hoehe; }
+  double Breite() const { return breite_; }
+  double Hoehe() const { return hoehe_; }
 
   void zeichne(Svg_Blatt& blatt, const Bildort& ecke) const;
 
  private:
-  std::vector<std::unique_ptr<Tafelkasten>> Kaesten;
-  double breite = 0, hoehe = 0;
+  std::vector<std::unique_ptr<Tafelkasten>> kaesten_;
+  double breite_ = 0, hoehe_ = 0;
 };
 
 }  // namespace polarkreis

@@ -143,26 +143,26 @@ std::vector<std::string> umbrochen(std::string_view text, double breite, double 
 }
 
 Svg_Blatt::Svg_Blatt(double breite, double hoehe, std::string_view titel) {
-  Xml =
+  xml_ =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\"";
   Attribut("width", breite);
   Attribut("height", hoehe);
   Attribut("viewBox", "0 0 " + Mass_Text(breite) + ' ' + Mass_Text(hoehe));
   Attribut("font-family", "Helvetica, Arial, 'Liberation Sans', 'DejaVu Sans', sans-serif");
-  Xml += ">\n";
-  if (!titel.empty()) Xml += "<title>" + XML_Text(titel) + "</title>\n";
+  xml_ += ">\n";
+  if (!titel.empty()) xml_ += "<title>" + XML_Text(titel) + "</title>\n";
   Rechteck({0, 0, breite, hoehe}, {"#ffffff"});
 }
 
 void Svg_Blatt::Attribut(std::string_view name, std::string_view text) {
-  Xml.append(" ").append(name).append("=\"").append(XML_Text(text)).append("\"");
+  xml_.append(" ").append(name).append("=\"").append(XML_Text(text)).append("\"");
 }
 
 void Svg_Blatt::Attribut(std::string_view name, double mass) {
-  Xml.append(" ").append(name).append("=\"");
-  anhaengen(Xml, mass);
-  Xml += '"';
+  xml_.append(" ").append(name).append("=\"");
+  anhaengen(xml_, mass);
+  xml_ += '"';
 }
 
 void Svg_Blatt::Strichattribute(const Strich& strich) {
@@ -177,66 +177,66 @@ void Svg_Blatt::Formattribute(const Form& form) {
 }
 
 void Svg_Blatt::Punktattribut(const Linienzug& zug) {
-  Xml += " points=\"";
+  xml_ += " points=\"";
   for (const Bildort& ort : zug) {
-    if (Xml.back() != '"') Xml += ' ';
-    anhaengen(Xml, ort.x);
-    Xml += ',';
-    anhaengen(Xml, ort.y);
+    if (xml_.back() != '"') xml_ += ' ';
+    anhaengen(xml_, ort.x);
+    xml_ += ',';
+    anhaengen(xml_, ort.y);
   }
-  Xml += '"';
+  xml_ += '"';
 }
 
 void Svg_Blatt::Gruppe(std::string_view klasse) {
-  Xml += "<g";
+  xml_ += "<g";
   Attribut("class", klasse);
-  Xml += ">\n";
+  xml_ += ">\n";
 }
 
 void Svg_Blatt::Gruppe_im_Fenster(std::string_view klasse, const Bildflaeche& fenster) {
-  Xml += "<clipPath id=\"Fenster\">";
+  xml_ += "<clipPath id=\"Fenster\">";
   Rechteck(fenster, {"#ffffff"});
-  Xml += "</clipPath>\n<g";
+  xml_ += "</clipPath>\n<g";
   Attribut("class", klasse);
   Attribut("clip-path", "url(#Fenster)");
-  Xml += ">\n";
+  xml_ += ">\n";
 }
 
 void Svg_Blatt::Gruppe_Ende() {
-  Xml += "</g>\n";
+  xml_ += "</g>\n";
 }
 
 void Svg_Blatt::Linie(const Bildort& von, const Bildort& bis, const Strich& strich) {
-  Xml += "<line";
+  xml_ += "<line";
   Attribut("x1", von.x);
   Attribut("y1", von.y);
   Attribut("x2", bis.x);
   Attribut("y2", bis.y);
   Strichattribute(strich);
-  Xml += "/>\n";
+  xml_ += "/>\n";
 }
 
 void Svg_Blatt::Zug(const Linienzug& zug, const Strich& strich) {
-  Xml += "<polyline fill=\"none\" stroke-linejoin=\"round\"";
+  xml_ += "<polyline fill=\"none\" stroke-linejoin=\"round\"";
   Strichattribute(strich);
   Punktattribut(zug);
-  Xml += "/>\n";
+  xml_ += "/>\n";
 }
 
 void Svg_Blatt::Vieleck(const Linienzug& ecken, const Form& form) {
-  Xml += "<polygon";
+  xml_ += "<polygon";
   Formattribute(form);
   Punktattribut(ecken);
-  Xml += "/>\n";
+  xml_ += "/>\n";
 }
 
 void Svg_Blatt::Kreis(const Bildort& mitte, double radius, const Form& form) {
-  Xml += "<circle";
+  xml_ += "<circle";
   Attribut("cx", mitte.x);
   Attribut("cy", mitte.y);
   Attribut("r", radius);
   Formattribute(form);
-  Xml += "/>\n";
+  xml_ += "/>\n";
 }
 
 void Svg_Blatt::Drehung(double winkel, const Bildort& um) {
@@ -246,7 +246,7 @@ void Svg_Blatt::Drehung(double winkel, const Bildort& um) {
 }
 
 void Svg_Blatt::Rechteck(const Bildflaeche& flaeche, const Form& form, double winkel) {
-  Xml += "<rect";
+  xml_ += "<rect";
   Attribut("x", flaeche.x);
   Attribut("y", flaeche.y);
   Attribut("width", flaeche.breite);
@@ -254,12 +254,12 @@ void Svg_Blatt::Rechteck(const Bildflaeche& flaeche, const Form& form, double wi
   if (form.rundung > 0) Attribut("rx", form.rundung);
   Drehung(winkel, {flaeche.x + flaeche.breite / 2, flaeche.y + flaeche.hoehe / 2});
   Formattribute(form);
-  Xml += "/>\n";
+  xml_ += "/>\n";
 }
 
 void Svg_Blatt::Text(const Bildort& ort, std::string_view text, const Schrift& schrift) {
   if (text.empty()) return;
-  Xml += "<text";
+  xml_ += "<text";
   Attribut("x", ort.x);
   Attribut("y", ort.y + 0.35 * schrift.groesse);
   Attribut("font-size", schrift.groesse);
@@ -267,7 +267,7 @@ void Svg_Blatt::Text(const Bildort& ort, std::string_view text, const Schrift& s
   if (schrift.anschlag != Anschlag::Anfang) Attribut("text-anchor", Anschlagwort(schrift.anschlag));
   Drehung(schrift.winkel, ort);
   Attribut("fill", schrift.farbe);
-  Xml.append(">").append(XML_Text(text)).append("</text>\n");
+  xml_.append(">").append(XML_Text(text)).append("</text>\n");
 }
 
 }  // namespace polarkreis

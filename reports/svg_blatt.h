@@ -84,7 +84,7 @@ class Svg_Blatt {
   void Text(const Bildort& ort, std::string_view text, const Schrift& schrift);
 
   /// The whole file.
-  std::string fertig() const { return Xml + "</svg>\n"; }
+  std::string fertig() const { return xml_ + "</svg>\n"; }
 
  private:
   void Attribut(std::string_view name, double mass);
@@ -94,7 +94,7 @@ class Svg_Blatt {
   void Punktattribut(const Linienzug& zug);
   void Drehung(double winkel, const Bildort& um);
 
-  std::string Xml;
+  std::string xml_;
 };
 
 }  // namespace polarkreis
