@@ -12,6 +12,7 @@ namespace polarkreis {
 namespace {
 
 constexpr std::string_view kKatalogliste = "katalg.lst";
+constexpr std::size_t kMeldungen_hoechstens = 100, kZitat_hoechstens = 40;
 constexpr int kSatz_hoechstens = (1 << 30) / Bauteilsatz;
 
 struct Typregel {
@@ -36,6 +37,11 @@ Katalogdateien::Felder items(std::string_view zeile) {
   ItemLeser leser(zeile);
   for (std::string item; leser.lies(item);) felder.push_back(item);
   return felder;
+}
+
+/// A text of a file, shortened and in quotes, for a message.
+std::string zitat(std::string_view text) {
+  return "\"" + std::string(erste_zeichen(text, kZitat_hoechstens)) + "\"";
 }
 
 enum Indexfeld : std::size_t { I_Code, I_Hersteller, I_Katalogtext, I_Anfang, Indexfelder };
@@ -81,9 +87,13 @@ int Satznummer(std::string_view text) {
   return nummer >= 1 && nummer <= kSatz_hoechstens ? static_cast<int>(nummer) : 0;
 }
 
+// A file of something else could have thousands of wrong rows; they must not push everything else
+// out of the message log.
 void Katalogdateien::melde(std::string_view datei, const std::string& text) {
-  if (gemeldet_.insert(std::string(datei) + ": " + text).second)
-    ablage.meldungen().melde("catalogue", datei, text);
+  if (gemeldet_.size() > kMeldungen_hoechstens) return;
+  if (!gemeldet_.insert(std::string(datei) + ": " + text).second) return;
+  const bool zu_viele = gemeldet_.size() > kMeldungen_hoechstens;
+  ablage.meldungen().melde("catalogue", datei, zu_viele ? "more is wrong: not told" : text);
 }
 
 std::vector<Katalogdateien::Felder> Katalogdateien::Feldzeilen(std::string_view name,
@@ -93,7 +103,7 @@ std::vector<Katalogdateien::Felder> Katalogdateien::Feldzeilen(std::string_view 
   Felder offen;
   const auto verwerfen = [&] {
     if (!offen.empty())
-      melde(name, "the row that begins with \"" + offen.front() + "\" has " +
+      melde(name, "the row that begins with " + zitat(offen.front()) + " has " +
                       std::to_string(offen.size()) + " of " + std::to_string(felder) +
                       " fields: left out");
     offen.clear();
@@ -122,7 +132,7 @@ std::vector<Katalogzeile> Katalogdateien::Katalogliste() {
     if (ist_Katalogcode(code))
       alle.push_back({std::string(code), std::string(getrimmt(text.substr(code.size())))});
     else
-      melde(kKatalogliste, "\"" + std::string(code) + "\" is no code of seven letters: left out");
+      melde(kKatalogliste, zitat(code) + " is no code of seven letters: left out");
   }
   return alle;
 }
@@ -134,12 +144,13 @@ std::vector<Indexzeile> Katalogdateien::Index(int Suchart) {
   for (const Felder& zeile : Feldzeilen(name, inhalt, Indexfelder)) {
     const std::string code(getrimmt(zeile[I_Code]));
     if (!ist_Katalogcode(code)) {
-      melde(name, "\"" + code + "\" is no code of seven letters: left out");
+      melde(name, zitat(code) + " is no code of seven letters: left out");
       continue;
     }
     const int anfang = Satznummer(zeile[I_Anfang]);
     if (anfang == 0)
-      melde(name, code + ": \"" + zeile[I_Anfang] + "\" is no record to begin with: none is read");
+      melde(name,
+            code + ": " + zitat(zeile[I_Anfang]) + " is no record to begin with: none is read");
     alle.push_back({code, std::string(getrimmt(zeile[I_Hersteller])),
                     std::string(getrimmt(zeile[I_Katalogtext])), anfang});
   }

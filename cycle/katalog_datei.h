@@ -60,7 +60,7 @@ class Katalogdateien {
   /// The index of a search kind in its order.
   std::vector<Indexzeile> Index(int Suchart);
 
-  /// Tells the message log, each text once.
+  /// Tells the message log, each text once, and no more than a hundred.
   void melde(std::string_view datei, const std::string& text);
 
  private:

@@ -147,6 +147,18 @@ TEST(Index, RowsThatNameNoCatalogueAreLeftOutAndTold) {
   EXPECT_TRUE(o.gemeldet("I550.DAT: the row that begins with \"SKADEKD\" has 2 of 4 fields"));
 }
 
+TEST(Index, OfAnotherKindOfFileDoesntFloodTheMessageLog) {
+  Katalogordner o;
+  std::string inhalt;
+  for (int n = 0; n < 5000; ++n)
+    inhalt += "text " + std::to_string(n) + std::string(500, 'x') + "\n";
+  o.schreib("I550.DAT", inhalt);
+  EXPECT_TRUE(o.dateien.Index(2).empty());
+  ASSERT_EQ(o.meldungen.zeilen().size(), 101U);
+  EXPECT_TRUE(o.meldungen.zeilen().back().ends_with("I550.DAT: more is wrong: not told"));
+  for (const std::string& zeile : o.meldungen.zeilen()) EXPECT_LT(zeile.size(), 200U);
+}
+
 TEST(Index, ARowWithoutAStartStaysAndIsTold) {
   Katalogordner o;
   o.schreib("I650.DAT",
