@@ -37,42 +37,43 @@ void drucke_zeile(const std::string& text) {
 
 // --- lists
 
-void listen_json(const std::vector<KompSuch>& suchen) {
-  Json hersteller = Json::array();
-  for (const KompSuch& suche : suchen)
-    hersteller.push_back({{"kind", suche.Suchart},
-                          {"index", Indexdatei(suche.Suchart)},
-                          {"makers", suche.Herstellerlist}});
-  drucke(Json{{"catalogues", kataloglist_json(suchen.front())}, {"makers", std::move(hersteller)}});
+using Hersteller = std::array<std::vector<std::string>, kArten.size()>;
+
+void listen_json(const KompSuch& suche, const Hersteller& hersteller) {
+  Json arten = Json::array();
+  for (std::size_t i = 0; i < kArten.size(); ++i)
+    arten.push_back(
+        {{"kind", kArten[i]}, {"index", Indexdatei(kArten[i])}, {"makers", hersteller[i]}});
+  drucke(Json{{"catalogues", kataloglist_json(suche)}, {"makers", std::move(arten)}});
 }
 
-void listen_tabelle(const std::vector<KompSuch>& suchen) {
-  Tabelle kataloge{{"Code", "Type", "Catalogue"}, {}}, hersteller{{"Kind", "Index", "Maker"}, {}};
-  for (const auto& k : suchen.front().Kataloglist)
+void listen_tabelle(const KompSuch& suche, const Hersteller& hersteller) {
+  Tabelle kataloge{{"Code", "Type", "Catalogue"}, {}}, namen{{"Kind", "Index", "Maker"}, {}};
+  for (const KompSuch::Katalogeintrag& k : suche.Kataloglist)
     kataloge.zeilen.push_back({k.code, std::to_string(k.Typ), k.Text});
-  for (const KompSuch& suche : suchen)
-    for (const std::string& name : suche.Herstellerlist)
-      hersteller.zeilen.push_back(
-          {std::to_string(suche.Suchart), std::string(Indexdatei(suche.Suchart)), name});
+  for (std::size_t i = 0; i < kArten.size(); ++i)
+    for (const std::string& name : hersteller[i])
+      namen.zeilen.push_back({std::to_string(kArten[i]), std::string(Indexdatei(kArten[i])), name});
   if (kataloge.zeilen.empty())
     drucke_zeile("The data folder lists no catalogues (katalg.lst).");
   else
     drucke(kataloge);
   drucke_zeile("");
-  if (hersteller.zeilen.empty())
+  if (namen.zeilen.empty())
     drucke_zeile("The data folder has no index of makers (I650.DAT, I600.DAT, I550.DAT).");
   else
-    drucke(hersteller);
+    drucke(namen);
 }
 
 void listen(Sitzung& sitzung, const Wuensche& w) {
-  std::vector<KompSuch> suchen;
-  for (int art : kArten) {
-    KompSuch& suche = suchen.emplace_back(sitzung.programm().ablage);
-    suche.Suchart = art;
+  KompSuch suche(sitzung.programm().ablage);
+  Hersteller hersteller;
+  for (std::size_t i = 0; i < kArten.size(); ++i) {
+    suche.Suchart = kArten[i];
     suche.Listen_fuellen();
+    hersteller[i] = suche.Herstellerlist;
   }
-  w.json ? listen_json(suchen) : listen_tabelle(suchen);
+  w.json ? listen_json(suche, hersteller) : listen_tabelle(suche, hersteller);
 }
 
 // --- search
