@@ -5,8 +5,8 @@ using namespace polarkreis;
 
 namespace {
 
-// Rows of 5 K whose columns are straight lines: dew pressure 2 + (T - 250) / 5 on the low side,
-// bubble pressure half a bar higher, 10 K and more apart on the high one.
+// Rows of 5 K on straight lines: dew pressure 2 + (T - 250) / 5 on the low side, 12 + (T - 300) / 5
+// on the high one, bubble pressure half a bar more.
 constexpr const char* gerade =
     "245,1,1.5,90,348,1310,5\n250,2,2.5,100,350,1300,10\n255,3,3.5,110,352,1290,15\n"
     "260,4,4.5,120,354,1280,20\n295,11,11.5,190,368,1210,55\n300,12,12.5,200,370,1200,60\n"
