@@ -32,16 +32,31 @@ void punkte_drucken(const logp_H& form, const Einheiten& einheiten) {
 }
 
 void bilanzen_drucken(const logp_H& form) {
-  Tabelle tabelle{{"Balance", "in", "out", "rest", "", ""}, {}};
+  constexpr double kg_je_Stunde = 3600;
+  Tabelle bilanzen{{"Balance", "in", "out", "rest", "", ""}, {}};
+  Tabelle arbeit{{"Power", "spent", "ideal", "loss", "", ""}, {}};
   for (const Bilanz& b : form.bilanzen()) {
-    const bool masse = b.Groesse == Bilanz::Art::Masse;
-    const double faktor = masse ? 3600 : 1;
-    const bool zu = b.schliesst();
-    tabelle.zeilen.push_back({std::string(b.Bauteil), anzeige(faktor * b.zu),
-                              anzeige(faktor * b.ab), zu ? "0" : anzeige(faktor * b.Rest()),
-                              masse ? "kg/h" : "kW", zu ? "" : "doesn't close"});
+    const bool masse = b.Groesse == Bilanz::Art::Masse,
+               vergleich = b.Groesse == Bilanz::Art::Arbeit;
+    const double faktor = masse ? kg_je_Stunde : 1;
+    const char* urteil = b.schliesst() ? "" : vergleich ? "less than ideal" : "doesn't close";
+    const bool null = b.schliesst() && !vergleich;
+    (vergleich ? arbeit : bilanzen)
+        .zeilen.push_back({std::string(b.Bauteil), anzeige(faktor * b.zu), anzeige(faktor * b.ab),
+                           null ? "0" : anzeige(faktor * b.Rest()), masse ? "kg/h" : "kW", urteil});
   }
-  drucke(tabelle);
+  drucke(bilanzen);
+  std::printf("\n");
+  drucke(arbeit);
+}
+
+// A model that asks for less work than physics does would make a plant look too good.
+void arbeit_pruefen(const logp_H& form) {
+  for (const Bilanz& b : form.bilanzen())
+    if (b.Groesse == Bilanz::Art::Arbeit && !b.schliesst())
+      melde("The fitted discharge temperature gives the " + std::string(b.Bauteil) + " " +
+            anzeige(b.zu) + " kW where a loss-free compression needs about " + anzeige(b.ab) +
+            " kW: EER and end temperature look better than they can be.");
 }
 
 void drucke_fuer_leute(const logp_H& form, const Einheiten& einheiten, const std::string& was) {
@@ -90,6 +105,7 @@ void ausfuehren(Sitzung& sitzung, const Logph_Wuensche& w) {
   logp_H form(p.kreis, einheiten);
   const std::string was = logph_Anlage(sitzung, w, form);
   if (!form.Rechnen()) scheitern(p, form);
+  arbeit_pruefen(form);
   const Json zustand = zustand_json(p.km.z);
   const Logp_Linien linien = logp_Linien(p.km);
   if (w.json) {

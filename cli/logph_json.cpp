@@ -30,11 +30,16 @@ Json punkte_json(const std::vector<Zustandspunkt>& punkte) {
   return liste;
 }
 
+const char* Name_von(Bilanz::Art art) {
+  if (art == Bilanz::Art::Masse) return "mass";
+  return art == Bilanz::Art::Arbeit ? "work" : "energy";
+}
+
 Json bilanzen_json(const std::vector<Bilanz>& bilanzen) {
   Json liste = Json::array();
   for (const Bilanz& b : bilanzen)
     liste.push_back({{"component", b.Bauteil},
-                     {"of", b.Groesse == Bilanz::Art::Masse ? "mass" : "energy"},
+                     {"of", Name_von(b.Groesse)},
                      {"in", zahl(b.zu)},
                      {"out", zahl(b.ab)},
                      {"rest", zahl(b.Rest())},
@@ -63,6 +68,8 @@ Json ergebnis_json(const logp_H::Ergebnis& e) {
           {"h_d", zahl(e.h_d)},
           {"P_1", zahl(e.P_1)},
           {"P_2", zahl(e.P_2)},
+          {"P_ideal_1", zahl(e.P_ideal_1)},
+          {"P_ideal_2", zahl(e.P_ideal_2)},
           {"P", zahl(e.P)},
           {"eta_is", zahl(e.eta)},
           {"Q0", logp_H::Q0},

@@ -8,6 +8,8 @@
 namespace polarkreis {
 namespace {
 
+constexpr std::string_view kZweite_Stufe = "high stage", kFlashgas = "flash gas compressor";
+constexpr double Nahezu = 0.9;    // as well as an ideal gas stands for vapour near saturation
 constexpr double Ziffern = 1e-9;  // what the last digits of the numbers leave
 
 void Waerme(const LogpLauf& l, std::vector<Bilanz>& liste) {
@@ -36,29 +38,34 @@ void Arbeit(const LogpLauf& l, std::vector<Bilanz>& liste) {
   const logp_H::Ergebnis& e = l.e;
   const auto verdichter = [&](std::string_view bauteil, double P, double m, double h_ein,
                               double h_aus) {
+    const bool zweiter = bauteil == kZweite_Stufe || bauteil == kFlashgas;
     liste.push_back({bauteil, Bilanz::Art::Energie, P, m * (h_aus - h_ein)});
+    liste.push_back({bauteil, Bilanz::Art::Arbeit, P, zweiter ? e.P_ideal_2 : e.P_ideal_1});
   };
   switch (e.Art) {
     case Schaltung::einstufig:
+    case Schaltung::Einspritzung:
+      verdichter("compressor", e.P_1, e.m_Modell, l.Saug.h, l.Ende1.h);
+      break;
     case Schaltung::Flashgas_Saug:
       verdichter("compressor", e.P_1, e.m_hoch, l.Saug.h, l.Ende1.h);
       break;
-    case Schaltung::Einspritzung:
     case Schaltung::zweistufig:
       verdichter("low stage", e.P_1, e.m, l.Saug.h, l.Ende1.h);
       liste.push_back({"mixing", Bilanz::Art::Energie, e.m * l.Ende1.h + e.m_zu * l.Dampf.h,
                        e.m_hoch * l.Mischung.h});
-      verdichter("high stage", e.P_2, e.m_hoch, l.Mischung.h, l.Ende2.h);
+      verdichter(kZweite_Stufe, e.P_2, e.m_hoch, l.Mischung.h, l.Ende2.h);
       break;
     case Schaltung::Flashgas_eigen:
       verdichter("main compressor", e.P_1, e.m, l.Saug.h, l.Ende1.h);
-      if (e.m_zu > 0) verdichter("flash gas compressor", e.P_2, e.m_zu, l.Mischung.h, l.Ende2.h);
+      if (e.m_zu > 0) verdichter(kFlashgas, e.P_2, e.m_zu, l.Mischung.h, l.Ende2.h);
   }
 }
 
 }  // namespace
 
 bool Bilanz::schliesst() const {
+  if (Groesse == Art::Arbeit) return zu >= Nahezu * ab;
   return std::abs(Rest()) <= Ziffern * std::max(std::abs(zu), std::abs(ab));
 }
 

@@ -100,12 +100,9 @@ void logp_H::ablesen(const LogpLauf& lauf) {
   setze(EnthDiff, hTF - e_.h_l);
   setze(xDampf, (e_.h_l - n.h_l0) / (n.h_v0 - n.h_l0));
   setze(EER_ACT, Int(100 * Q0 / e_.P) / 100);
-  const KMZustand& h = lauf.haupt;
   constexpr double s = 1;
-  setze(VerdLeist_DIN, Int((((h.h_v0 + h.cp_v0 * lauf.dT_sh - h.h_lc) / lauf.q) * 100 *
-                            (T_EN12900 / (e_.t_s + nullpunkt)) * s) *
-                           10) /
-                           10);
+  setze(VerdLeist_DIN,
+        Int(((lauf.q_DIN / lauf.q) * 100 * (T_EN12900 / (e_.t_s + nullpunkt)) * s) * 10) / 10);
   if (lauf.Gemisch) {
     setze(tGlide, lauf.km.Sat_TausP(e_.p0, 167) - lauf.km.Sat_TausP(e_.p0, 187));
     setze(t0_Punkt, lauf.km.Sat_TausP(e_.p0, lauf.T_liq()));

@@ -16,7 +16,7 @@ class LogpLauf;
 /// What the vapour between the two pressures of a staged plant does.
 enum class Schaltung {
   einstufig,       ///< nothing lies between the pressures
-  Einspritzung,    ///< economiser: its vapour is injected into the compressor
+  Einspritzung,    ///< economiser: its vapour is injected into the one compressor
   zweistufig,      ///< the flash gas of a tank at the intermediate pressure joins the high stage
   Flashgas_Saug,   ///< the flash gas is throttled into the suction line; one stage compresses all
   Flashgas_eigen,  ///< the flash gas has a compressor of its own
@@ -50,12 +50,14 @@ struct Druckfigur {
 ///   stands in the record, also counts the economiser's `u` and the internal heat exchanger's
 ///   `dT_liquid`; so suction and liquid side exchange the same heat. R744 has its own subcooling
 ///   behind the gas cooler (`KreisPunkt`), to which both are added.
-/// - **Staged plants** (`Zweistufig` not 0, or an economiser, option 1 to 9) compress in two parts,
-///   and the second pass of `KreisPunkt` is their low stage. The vapour that joins between them is
-///   saturated (in a measured row as warm as measured), mixes with what the low stage delivers, and
-///   a third pass of `KreisPunkt` is the high stage. With an economiser its flow is
-///   `KM_Massenstrom`'s, whose balance is fitted and doesn't close. Without one a tank separates
-///   the flash gas: the flow is that of the tank's energy balance.
+/// - **Economiser** (option 1 to 9, `Zweistufig` 0): one compressor over the whole pressure range.
+///   The second pass of `KreisPunkt` gives the evaporator's flow, to which `m_eco` comes in the
+///   condenser; the power is that of `KM_Massenstrom`'s flow, which stands for both, as in the
+///   annual simulation. Where the vapour meets the compression is drawn, not worked out.
+/// - **Two stages** (`Zweistufig` not 0): the second pass is the low stage. The vapour that joins
+///   between them is saturated (in a measured row as warm as measured), mixes with what the low
+///   stage delivers, and a third pass is the high stage. A tank separates the flash gas: its flow
+///   is that of the tank's energy balance; with an economiser it is `KM_Massenstrom`'s.
 /// - **R744 of the annual simulation** (transcritical, no economiser) has a tank, but no second
 ///   stage: the flash gas goes into the suction line, or to a compressor of its own
 ///   (`ParaL_Check`). Then all is compressed from the low to the high pressure at once.
@@ -138,19 +140,20 @@ class logp_H {
     double t_s = leer;                                    ///< behind the internal heat exchanger
     double t_m = leer, p_m = leer;                        ///< intermediate state
     double m = leer;                                      ///< flow of the evaporator
-    double m_zu = 0;                ///< flow that joins at the intermediate pressure
-    double m_hoch = leer;           ///< flow of the condenser
-    double m_Modell = leer;         ///< flow by `KM_Massenstrom`
-    double h_liq = leer;            ///< liquid behind all subcooling
-    double h_l = leer;              ///< liquid that is throttled into the evaporator
-    double t_d1 = leer;             ///< end of the low stage, or of the main compressor
-    double t_d2 = leer;             ///< end of the flash gas' own compressor
-    double t_d = leer, h_d = leer;  ///< where the condenser begins
-    double P_1 = 0, P_2 = 0;        ///< low stage and high one, or main and flash gas
-    double P = leer;                ///< compressor power
-    double eta = leer;              ///< isentropic efficiency, of two the mean
-    double Q_SL = leer;             ///< heat that the suction line takes up
-    double Qc = leer;               ///< heat of the condenser
+    double m_zu = 0;                      ///< flow that joins at the intermediate pressure
+    double m_hoch = leer;                 ///< flow of the condenser
+    double m_Modell = leer;               ///< flow by `KM_Massenstrom`
+    double h_liq = leer;                  ///< liquid behind all subcooling
+    double h_l = leer;                    ///< liquid that is throttled into the evaporator
+    double t_d1 = leer;                   ///< end of the low stage, or of the main compressor
+    double t_d2 = leer;                   ///< end of the flash gas' own compressor
+    double t_d = leer, h_d = leer;        ///< where the condenser begins
+    double P_ideal_1 = 0, P_ideal_2 = 0;  ///< loss-free compression between the same pressures
+    double P_1 = 0, P_2 = 0;              ///< low stage and high one, or main and flash gas
+    double P = leer;                      ///< compressor power
+    double eta = leer;                    ///< isentropic efficiency, of two the mean
+    double Q_SL = leer;                   ///< heat that the suction line takes up
+    double Qc = leer;                     ///< heat of the condenser
   };
   Hindernis hindernis() const { return hindernis_; }
   const Ergebnis& ergebnis() const { return e_; }

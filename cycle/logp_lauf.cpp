@@ -178,10 +178,11 @@ void LogpLauf::innerer_WT() {
     z.t_s = e.t_s;
     setze(z.rho_s, z.rho_v0 * z.T0 / (e.t_s + nullpunkt));
   }
+  setze(q_DIN, z.h_v0 + z.cp_v0 * dT_sh - z.h_lc);
   haupt = nieder = z;
 }
 
-/// The second pass gives the low stage, and with it the evaporator's flow.
+/// The second pass gives the low stage, and with it the evaporator's flow and low side.
 void LogpLauf::zwischenstufe() {
   e.m = e.m_Modell;
   e.h_l = e.h_liq;
@@ -191,6 +192,10 @@ void LogpLauf::zwischenstufe() {
     if (gemessen) setze(z.p0, f.p0F);
     z.dT_sc = haupt.dT_sc;
     nieder = z;
+    haupt.p0 = z.p0;
+    haupt.h_v0 = z.h_v0;
+    haupt.rho_v0 = z.rho_v0;
+    haupt.rho_s = z.rho_s;
     if (!Economiser) e.h_l = z.h_lc;
     setze(e.m, logp_H::Q0 / ((z.h_v0 + dT_sh * z.cp_v0) - e.h_l));
     const double Flashgas = e.m * (e.h_liq - e.h_l) / (z.h_vc - e.h_liq);
@@ -202,12 +207,14 @@ void LogpLauf::zwischenstufe() {
 
 void LogpLauf::verdichtung() {
   leitungen();
-  if (!gestuft) {
-    einstufig();
-  } else if (f.modul == "SIM_PRO" && e.transkritisch && !Economiser) {
+  const bool Flashgas = f.modul == "SIM_PRO" && e.transkritisch && !Economiser;
+  if (f.Zweistufig == 0) {
+    e.Art = gestuft ? Schaltung::Einspritzung : Schaltung::einstufig;
+    ein_Verdichter();
+  } else if (Flashgas) {
     f.ParaL_Check ? Flashgas_eigen() : Flashgas_in_Saug();
   } else {
-    e.Art = f.Zweistufig != 0 ? Schaltung::zweistufig : Schaltung::Einspritzung;
+    e.Art = Schaltung::zweistufig;
     unterste_Stufe();
     zweite_Stufe();
   }
@@ -245,16 +252,28 @@ LogpLauf::Ort LogpLauf::Hochdruckende(double t_d) {
   return ende;
 }
 
+/// Power of a loss-free compression of an ideal gas with the inlet's density and the record's
+/// exponent, kW.
+double LogpLauf::ideal(const Ort& ein, double p_s, double p_d, double m) const {
+  constexpr double kPa_je_bar = 100;
+  const double n = z.kappa / (z.kappa - 1);
+  return m * n * (p_s * kPa_je_bar / ein.rho) * (std::pow(p_d / p_s, 1 / n) - 1);
+}
+
 double LogpLauf::Leistung(const Ort& ein, double p_s, double p_d, double m, double t_d, int mode) {
   return kreis.Verd_Leistung(p_s, p_d, z.T0, z.Tc, m, dT_sh, ein.t, z.h_vc, z.h_v0, t_d, mode);
 }
 
-void LogpLauf::einstufig() {
+/// One compressor over the whole pressure range. With an economiser it works as if the flow of
+/// `KM_Massenstrom` came in at the suction side: that stands for the injected vapour.
+void LogpLauf::ein_Verdichter() {
+  z = haupt;
   Saug = {e.t_s, z.h_v0 + (e.t_s - f.t0F) * z.cp_v0, z.rho_s};
   const bool t_end_da = gemessen && f.t_end >= offener_Eingang;
   const double t_d = Ende_auf(e.p_s, e.p_d, Saug.t).t;
   e.t_d1 = t_end_da ? f.t_end : t_d;
-  e.P = e.P_1 = Leistung(Saug, e.p_s, e.p_d, e.m_hoch, e.t_d1, t_end_da ? 1 : 0);
+  e.P = e.P_1 = Leistung(Saug, e.p_s, e.p_d, e.m_Modell, e.t_d1, t_end_da ? 1 : 0);
+  e.P_ideal_1 = ideal(Saug, e.p_s, e.p_d, e.m_Modell);
   Ende1 = Hochdruckende(e.t_d1);
   e.t_d = Ende1.t;
   e.h_d = Ende1.h;
@@ -267,6 +286,7 @@ void LogpLauf::unterste_Stufe() {
   Ende1 = Ende_auf(e.p_s, e.p_m, Saug.t);
   e.t_d1 = Ende1.t;
   e.P_1 = Leistung(Saug, e.p_s, e.p_m, e.m, e.t_d1, 0);
+  e.P_ideal_1 = ideal(Saug, e.p_s, e.p_m, e.m);
   e.eta = z.eta_is;
 }
 
@@ -290,6 +310,7 @@ void LogpLauf::zweite_Stufe() {
   setze(z.cp_d, (nieder.cp_d + z.cp_d) / 2);
   e.t_d = t_end_da ? f.t_end : t_d;
   e.P_2 = Leistung(Mischung, e.p_m, e.p_d, e.m_hoch, e.t_d, t_end_da ? 1 : 0);
+  e.P_ideal_2 = ideal(Mischung, e.p_m, e.p_d, e.m_hoch);
   e.P = e.P_1 + e.P_2;
   setze(e.eta, (e.eta + z.eta_is) / 2);
   Ende2 = Hochdruckende(e.t_d);
@@ -308,6 +329,7 @@ void LogpLauf::Flashgas_in_Saug() {
   setze(Saug.rho, z.rho_v0 * z.T0 / (Saug.t + nullpunkt));
   e.t_d1 = Ende_auf(e.p_s, e.p_d, Saug.t).t;
   e.P = e.P_1 = Leistung(Saug, e.p_s, e.p_d, e.m_hoch, e.t_d1, 0);
+  e.P_ideal_1 = ideal(Saug, e.p_s, e.p_d, e.m_hoch);
   Ende1 = Hochdruckende(e.t_d1);
   e.t_d = Ende1.t;
   e.h_d = Ende1.h;
@@ -322,6 +344,7 @@ void LogpLauf::Flashgas_eigen() {
   Saug = {e.t_s, z.h_v0 + (e.t_s - f.t0F) * z.cp_v0, z.rho_s};
   e.t_d1 = Ende_auf(e.p_s, e.p_d, Saug.t).t;
   e.P_1 = Leistung(Saug, e.p_s, e.p_d, e.m, e.t_d1, 0);
+  e.P_ideal_1 = ideal(Saug, e.p_s, e.p_d, e.m);
   Ende1 = Hochdruckende(e.t_d1);
   e.eta = z.eta_is;
   e.P = e.P_1;
@@ -335,6 +358,7 @@ void LogpLauf::Flashgas_eigen() {
   e.t_d2 = Ende_auf(e.p_m, e.p_d, Mischung.t).t;
   setze(z.cp_d, (haupt.cp_d + z.cp_d) / 2);
   e.P_2 = Leistung(Mischung, e.p_m, e.p_d, e.m_zu, e.t_d2, 0);
+  e.P_ideal_2 = ideal(Mischung, e.p_m, e.p_d, e.m_zu);
   Ende2 = Hochdruckende(e.t_d2);
   setze(e.eta, (e.eta + z.eta_is) / 2);
   e.P = e.P_1 + e.P_2;

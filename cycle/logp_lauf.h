@@ -33,18 +33,19 @@ class LogpLauf {
   bool Gemisch = false;    ///< the two lines of the refrigerant differ in pressure
   double t_s_ohne = leer;  ///< compressor inlet without internal heat exchanger
   double dT_sh = 0, dT_liquid = 0;
-  double dT_sc = 0;    ///< behind the condenser
-  double u = 0;        ///< by the economiser
-  double q = leer;     ///< enthalpy difference of the point before the internal heat exchanger
-  double h_lc = leer;  ///< liquid at the end of condensation
-  KMZustand haupt;     ///< the whole pressure range, with what the heat exchanger changed
-  KMZustand nieder;    ///< what the evaporator works at: the low stage, or the same
-  KMZustand hoch;      ///< the high stage, or the flash gas' own compressor
-  Ort Saug;            ///< where the first compression begins
-  Ort Ende1;           ///< where it ends
-  Ort Dampf;           ///< vapour that joins at the intermediate pressure
-  Ort Mischung;        ///< inlet of the high stage, or of the flash gas' compressor
-  Ort Ende2;           ///< where the second compression ends
+  double dT_sc = 0;     ///< behind the condenser
+  double u = 0;         ///< by the economiser
+  double q = leer;      ///< enthalpy difference of the point before the internal heat exchanger
+  double q_DIN = leer;  ///< the same without subcooling, after it
+  double h_lc = leer;   ///< liquid at the end of condensation
+  KMZustand haupt;      ///< the whole pressure range, with what the heat exchanger changed
+  KMZustand nieder;     ///< what the evaporator works at: the low stage, or the same
+  KMZustand hoch;       ///< the high stage, or the flash gas' own compressor
+  Ort Saug;             ///< where the first compression begins
+  Ort Ende1;            ///< where it ends
+  Ort Dampf;            ///< vapour that joins at the intermediate pressure
+  Ort Mischung;         ///< inlet of the high stage, or of the flash gas' compressor
+  Ort Ende2;            ///< where the second compression ends
   logp_H::Ergebnis e;
 
  private:
@@ -60,11 +61,12 @@ class LogpLauf {
 
   // Parts of them.
   double p_m_Regel() const;
-  void einstufig();
+  void ein_Verdichter();
   void unterste_Stufe();
   void zweite_Stufe();
   void Flashgas_in_Saug();
   void Flashgas_eigen();
+  double ideal(const Ort& ein, double p_s, double p_d, double m) const;
   double Leistung(const Ort& ein, double p_s, double p_d, double m, double t_d, int mode);
   Ort Ende_auf(double p_s, double p_d, double t_ein);
   Ort Hochdruckende(double t_d);

@@ -1,6 +1,7 @@
 #include "cycle/logp_punkte.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "cycle/logp_lauf.h"
 
@@ -49,6 +50,7 @@ class Sammler {
 
   void verdichtung();
   void zwei_Stufen();
+  void einspritzung();
   void verfluessigung();
   void fluessigkeit();
   void zwischenstufe(std::size_t von);
@@ -67,10 +69,10 @@ class Sammler {
 
 void Sammler::verdichtung() {
   Einlass_Saug_ = haupt(gas("compressor inlet", e_.p_s, l_.Saug, Druckstufe::Niederdruck));
-  if (e_.Art == Schaltung::Einspritzung || e_.Art == Schaltung::zweistufig)
-    zwei_Stufen();
-  else
-    haupt(gas("compressor outlet", e_.p_d, l_.Ende1, Druckstufe::Hochdruck));
+  if (e_.Art == Schaltung::zweistufig) zwei_Stufen();
+  if (e_.Art == Schaltung::Einspritzung) einspritzung();
+  const Ort& Ende = e_.Art == Schaltung::zweistufig ? l_.Ende2 : l_.Ende1;
+  haupt(gas("compressor outlet", e_.p_d, Ende, Druckstufe::Hochdruck));
   const Ort Eintritt{e_.t_d, e_.h_d, leer};
   const bool gemischt = e_.Art == Schaltung::Flashgas_eigen && e_.m_zu > 0;
   if (gemischt || e_.p_d > e_.pc)
@@ -82,7 +84,13 @@ void Sammler::verdichtung() {
 void Sammler::zwei_Stufen() {
   haupt(gas("low stage outlet", e_.p_m, l_.Ende1, Druckstufe::Mitteldruck));
   Einlass_Hoch_ = haupt(gas("high stage inlet", e_.p_m, l_.Mischung, Druckstufe::Mitteldruck));
-  haupt(gas("compressor outlet", e_.p_d, l_.Ende2, Druckstufe::Hochdruck));
+}
+
+/// Where the compression passes the intermediate pressure on the diagram's straight line.
+void Sammler::einspritzung() {
+  const double anteil = std::log(e_.p_m / e_.p_s) / std::log(e_.p_d / e_.p_s);
+  const double h = l_.Saug.h + anteil * (l_.Ende1.h - l_.Saug.h);
+  Einlass_Hoch_ = haupt(gas("vapour injection", e_.p_m, {leer, h, leer}, Druckstufe::Mitteldruck));
 }
 
 void Sammler::verfluessigung() {
