@@ -60,24 +60,44 @@ TEST(LogphEconomiser, ItsVapourIsSaturatedAtTheIntermediatePressure) {
   EXPECT_NEAR(p.punkt("economiser valve outlet").h, h_lc - 3 * cp_l, 1e-9);
 }
 
-TEST(LogphEconomiser, TheVapourJoinsBetweenTwoCompressions) {
+// The flow of the model stands for what comes in at the suction side and for what is injected.
+TEST(LogphEconomiser, OneCompressorWorksOverTheWholePressureRange) {
   Economiser p;
   const logp_H::Ergebnis& e = p.rechne();
   Schritte s(p);
-  s.punkt(-10, e.t_m, 0);
-  const double t_d1 = s.Ende(2.00603, e.p_m, 0);
-  const double P_1 = s.Leistung(2.00603, e.p_m, e.m, 0), cp_d1 = s.z.cp_d;
-  EXPECT_NEAR(e.t_d1, t_d1, 1e-9);
-  EXPECT_NEAR(e.P_1, P_1, 1e-12);
-  const double t_misch = e.t_m + e.m * (t_d1 - e.t_m) / e.m_hoch;
-  EXPECT_NEAR(p.punkt("high stage inlet").t, t_misch, 1e-9);
-  EXPECT_LT(t_misch, t_d1);
-  s.punkt(e.t_m, 40, t_misch, 3);
-  const double t_d = s.Ende(e.p_m, 10.1659, t_misch);
-  s.z.cp_d = (cp_d1 + s.z.cp_d) / 2;
-  EXPECT_NEAR(e.t_d, t_d, 1e-9);
-  EXPECT_NEAR(e.P_2, s.Leistung(e.p_m, 10.1659, e.m_hoch, t_misch), 1e-12);
-  EXPECT_EQ(e.P, e.P_1 + e.P_2);
+  s.punkt(-10, 40, 0, 3);
+  const double m = s.kreis.KM_Massenstrom(1, 10);
+  EXPECT_NEAR(e.m_Modell, m, 1e-15);
+  EXPECT_NEAR(e.t_d, s.Ende(2.00603, 10.1659, 0), 1e-9);
+  EXPECT_NEAR(e.P, s.Leistung(2.00603, 10.1659, m, 0), 1e-12);
+  EXPECT_EQ(e.P_1, e.P);
+  EXPECT_EQ(e.P_2, 0);
+  EXPECT_NEAR(e.h_d, s.h_Ende(e.t_d), 1e-9);
+}
+
+// More than that no economiser gains between these temperatures.
+TEST(LogphEconomiser, ItGainsAFewPercent) {
+  for (const char* mittel : {"R134A", "R404A", "R407C", "R448A", "R22", "R717"}) {
+    LogphPlatz ohne(mittel, -25, 40);
+    const double P = ohne.rechne().P;
+    LogphPlatz mit(mittel, -25, 40);
+    mit.form.ECO_OPT = 1;
+    const double gewinn = P / mit.rechne().P - 1;
+    EXPECT_GT(gewinn, 0) << mittel;
+    EXPECT_LT(gewinn, 0.2) << mittel;
+  }
+}
+
+// A straight line between inlet and outlet in the logarithm of the pressure.
+TEST(LogphEconomiser, TheInjectionIsDrawnOnTheCompression) {
+  Economiser p;
+  const logp_H::Ergebnis& e = p.rechne();
+  const Zustandspunkt ein = p.punkt("compressor inlet"), aus = p.punkt("compressor outlet"),
+                      dazu = p.punkt("vapour injection");
+  EXPECT_EQ(dazu.p, e.p_m);
+  EXPECT_TRUE(ist_leer(dazu.t));
+  EXPECT_NEAR((dazu.h - ein.h) / (aus.h - ein.h),
+              std::log(dazu.p / ein.p) / std::log(aus.p / ein.p), 1e-12);
 }
 
 TEST(LogphEconomiser, OptionsOneToNineAreOneAllOthersNone) {

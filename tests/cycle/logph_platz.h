@@ -58,6 +58,13 @@ struct LogphPlatz {
     ADD_FAILURE() << "no balance of the " << bauteil;
     return {};
   }
+  /// A compressor's power against the ideal one.
+  polarkreis::Bilanz arbeit(std::string_view bauteil) const {
+    for (const polarkreis::Bilanz& b : form.bilanzen())
+      if (b.Bauteil == bauteil && b.Groesse == polarkreis::Bilanz::Art::Arbeit) return b;
+    ADD_FAILURE() << "no power of the " << bauteil;
+    return {};
+  }
   /// A figure as it is printed; empty where it isn't.
   std::string figur(std::string_view literal) const {
     for (const polarkreis::Druckfigur& f : form.figuren())
