@@ -71,6 +71,10 @@ std::string_view grund(Hindernis hindernis) {
       return "refrigerant";
     case Hindernis::Temperatur:
       return "temperature";
+    case Hindernis::Druck:
+      return "pressure";
+    case Hindernis::Economiser:
+      return "economiser";
     case Hindernis::Mitteldruck:
       return "intermediate pressure";
     default:

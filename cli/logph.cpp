@@ -50,6 +50,17 @@ void bilanzen_drucken(const logp_H& form) {
   drucke(arbeit);
 }
 
+// Liquid can't be cooled by vapour that is warmer.
+void economiser_pruefen(const logp_H& form) {
+  const Zustandspunkt* kalt = form.punkte().finde("economiser outlet");
+  const Zustandspunkt* dampf = form.punkte().finde("economiser vapour");
+  if (kalt && dampf && kalt->t < dampf->t)
+    melde("The economiser evaporates at " + anzeige(dampf->t) +
+          " °C, but its liquid leaves it at " + anzeige(kalt->t) +
+          " °C: no heat exchanger does that. Take a lower intermediate pressure " +
+          "(--p-int, --p-m).");
+}
+
 // A model that asks for less work than physics does would make a plant look too good.
 void arbeit_pruefen(const logp_H& form) {
   for (const Bilanz& b : form.bilanzen())
@@ -78,14 +89,23 @@ void drucke_fuer_leute(const logp_H& form, const Einheiten& einheiten, const std
                     " °C give no cycle: the first must be the lower one, and both must lie inside "
                     "the table " +
                     p.km.z.RefFile + ".");
+    case Hindernis::Druck:
+      throw Abbruch(
+          "The pressures give no cycle: the low one must be above 0 and below the high one, the "
+          "losses of the lines included.");
+    case Hindernis::Economiser:
+      throw Abbruch(
+          "The temperatures lie too near each other for an economiser: it has nothing to cool. "
+          "Leave --economiser out.");
     case Hindernis::Mitteldruck:
       throw Abbruch(
           "The intermediate pressure doesn't lie between the evaporating and the condensing "
           "pressure, or not inside the table. Give another one with --p-int or --p-m.");
     default:
       throw Abbruch(
-          "No cycle comes out at this point: the tables hold no such state. Check the "
-          "temperatures, the high pressure and the superheat.");
+          "No cycle comes out at this point: the tables hold no such state, or a compression "
+          "comes out without power because its pressures lie too near each other. Check the "
+          "temperatures, the high and the intermediate pressure and the superheat.");
   }
 }
 
@@ -106,6 +126,7 @@ void ausfuehren(Sitzung& sitzung, const Logph_Wuensche& w) {
   const std::string was = logph_Anlage(sitzung, w, form);
   if (!form.Rechnen()) scheitern(p, form);
   arbeit_pruefen(form);
+  economiser_pruefen(form);
   const Json zustand = zustand_json(p.km.z);
   const Logp_Linien linien = logp_Linien(p.km);
   if (w.json) {

@@ -1,5 +1,6 @@
 #include "logph_anlage.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "diagnostics/real_logp.h"
@@ -86,6 +87,11 @@ std::string aus_messung(Sitzung& sitzung, const Logph_Wuensche& w, logp_H& form)
   return "measured row " + nummer + ", " + messung.DiaSpread.text(zeile, Spalte::Zeit);
 }
 
+// The cycle moves a gas cooler between 30 and 31 °C up to 31 °C.
+double Gaskuehler(double t) {
+  return t > 30 ? std::max(t, 31.0) : t;
+}
+
 // What the call gives wins over the plant.
 void ueberschreiben(const Logph_Wuensche& w, bool aus_tabelle, logp_H& form) {
   if (!aus_tabelle) {
@@ -126,7 +132,8 @@ std::string logph_Anlage(Sitzung& sitzung, const Logph_Wuensche& w, logp_H& form
   ueberschreiben(w, !w.stoff.empty(), form);
   Programm& p = sitzung.programm();
   if (!messung) grenzen_pruefen(p, form.t0F, form.tcF);
-  if (p.km.ist_CO2() && form.Zweistufig != 0 && form.P_hoch == 0) form.GC_Druck(form.tcF);
+  if (p.km.ist_CO2() && form.Zweistufig != 0 && form.P_hoch == 0)
+    form.GC_Druck(Gaskuehler(form.tcF));
   return was;
 }
 

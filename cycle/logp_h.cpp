@@ -10,7 +10,7 @@
 namespace polarkreis {
 namespace {
 
-constexpr double nullpunkt = 273.15;
+constexpr double nullpunkt = LogpLauf::nullpunkt;
 constexpr double T_EN12900 = 293.15;  // K, compressor inlet of the standard condition
 
 struct Namenspaar {
@@ -124,7 +124,7 @@ void logp_H::beschriften(const LogpLauf& lauf) {
               {"EER/COP ", Zahl_Text(EER_ACT), ""}};
   druckverlust("dpDL=", lauf.haupt.dp_d);
   druckverlust("dpSL=", lauf.haupt.dp_s);
-  druckverlust("dpFl=", dp_Fl);
+  druckverlust("dpFl=", ist_leer(dp_Fl) ? 0 : dp_Fl);
   figuren_.push_back({"dho=", gezeigt(EnthDiff), " kJ/kg"});
   figuren_.push_back({"  dho =", gezeigt(EnthDiff), " kJ/kg"});
   figuren_.push_back({"  toh = ", gezeigt(einheiten_.Temperaturdifferenz(lauf.dT_sh)), " K"});
@@ -132,7 +132,10 @@ void logp_H::beschriften(const LogpLauf& lauf) {
   figuren_.push_back({" DIN  Qo/Q EN 12900 = ", Zahl_Text(VerdLeist_DIN), " %"});
   if (ist_leer(tGlide)) return;
   figuren_.push_back({"Temperaturglide!", "", ""});
-  figuren_.push_back({"to im Punkt:", temperatur(t0_Punkt), grad});
+  // It was cut when it was looked up.
+  const bool umgerechnet = einheiten_.angelsaechsisch;
+  figuren_.push_back(
+      {"to im Punkt:", umgerechnet ? temperatur(t0_Punkt) : Zahl_Text(t0_Punkt), grad});
 }
 
 }  // namespace polarkreis

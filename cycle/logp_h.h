@@ -27,7 +27,9 @@ enum class Hindernis {
   keines,
   Mittel,       ///< the designation is unknown, or its table is missing
   Temperatur,   ///< a temperature is empty, outside the table, or t0 isn't below tc
+  Druck,        ///< the low pressure isn't above 0 or not below the high one, losses included
   Mitteldruck,  ///< the intermediate pressure doesn't lie between the other two
+  Economiser,   ///< the temperatures lie too near for one
   Kreis         ///< no power comes out at this point
 };
 
@@ -56,8 +58,11 @@ struct Druckfigur {
 ///   annual simulation. Where the vapour meets the compression is drawn, not worked out.
 /// - **Two stages** (`Zweistufig` not 0): the second pass is the low stage. The vapour that joins
 ///   between them is saturated (in a measured row as warm as measured), mixes with what the low
-///   stage delivers, and a third pass is the high stage. A tank separates the flash gas: its flow
-///   is that of the tank's energy balance; with an economiser it is `KM_Massenstrom`'s.
+///   stage delivers, enthalpy with enthalpy, and a third pass is the high stage. A tank separates
+///   the flash gas: its flow is that of the tank's energy balance; with an economiser it is
+///   `KM_Massenstrom`'s.
+/// - **Transcritical R744** takes its power from its table for any number of stages, as the annual
+///   simulation does; with one compressor `Zweistufig` counts as 2.
 /// - **R744 of the annual simulation** (transcritical, no economiser) has a tank, but no second
 ///   stage: the flash gas goes into the suction line, or to a compressor of its own
 ///   (`ParaL_Check`). Then all is compressed from the low to the high pressure at once.
@@ -94,8 +99,9 @@ class logp_H {
   double C = 0;                 ///< pressure drop of the suction line at full load, K
   double dp_Fl = 0;             ///< pressure drop of the liquid line, mbar
   int Bauart = 0, Antrieb = 0;  ///< see `KMZustand`
-  double t_end = leer;          ///< measured end of compression, °C
-  double t_s2 = leer;           ///< measured at the inlet of the high stage ("DiaG"), °C
+  /// Measured ("DiaG"), °C; below -90 a sensor is open, and none: the end of compression, and with
+  /// two stages the vapour that joins between them (`Zweistufig` 1) or the inlet of the high stage.
+  double t_end = leer, t_s2 = leer;
 
   /// R744 in two stages: these stand in place of `dT_sh`, the suction line's rise, `dT_liquid` and
   /// `P_hoch` where they are given. `tu_Scroll` is only shown: the subcooling is `KreisPunkt`'s.

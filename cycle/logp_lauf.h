@@ -4,6 +4,15 @@
 
 namespace polarkreis {
 
+/// Pressures of a blend's evaporator and condenser lie between the lines: what both lines hold at
+/// such a pressure.
+struct Saettigung {
+  double t_b = leer, t_d = leer;      ///< bubble and dew temperature, °C
+  double h_l = leer, h_v = leer;      ///< kJ/kg
+  double rho_l = leer, rho_v = leer;  ///< kg/m³
+};
+Saettigung Saettigung_bei(Kaeltemittel& km, double p);
+
 /// One calculation of the log p-h analysis: its steps in their order, and what one leaves for the
 /// next. Temperatures in °C, pressures in bar absolute, enthalpies in kJ/kg.
 class LogpLauf {
@@ -12,6 +21,12 @@ class LogpLauf {
   ~LogpLauf();  ///< puts the settings of the cycle back
   LogpLauf(const LogpLauf&) = delete;
   LogpLauf& operator=(const LogpLauf&) = delete;
+
+  static constexpr double nullpunkt = 273.15;     ///< K at 0 °C
+  static constexpr double kritisch_CO2 = 304.15;  ///< K; from here up no condensing line of R744
+  static constexpr double offener_Eingang = -90;  ///< °C; a sensor below it is none
+  /// `Zweistufig` with which R744 has its power from its table.
+  static constexpr int aus_der_Tabelle = 2;
 
   /// Runs the steps; what stands in the way, or nothing.
   Hindernis rechne();
@@ -44,13 +59,14 @@ class LogpLauf {
   Ort Saug;             ///< where the first compression begins
   Ort Ende1;            ///< where it ends
   Ort Dampf;            ///< vapour that joins at the intermediate pressure
+  Saettigung Mitte;     ///< both lines at the intermediate pressure
   Ort Mischung;         ///< inlet of the high stage, or of the flash gas' compressor
   Ort Ende2;            ///< where the second compression ends
   logp_H::Ergebnis e;
 
  private:
   // The steps in their order.
-  bool pruefen();
+  Hindernis pruefen();
   void vorgeben();
   Hindernis zwischendruck();
   void hauptpunkt();
@@ -60,7 +76,10 @@ class LogpLauf {
   void abschliessen();
 
   // Parts of them.
-  double p_m_Regel() const;
+  double p_m_Regel(double p0, double pc) const;
+  bool Drucke_moeglich() const;
+  bool Ergebnis_moeglich() const;
+  void mische();
   void ein_Verdichter();
   void unterste_Stufe();
   void zweite_Stufe();
@@ -76,15 +95,6 @@ class LogpLauf {
   const int ECO_OPT_davor_;
   const double Leistung_davor_;
 };
-
-/// Pressures of a blend's evaporator and condenser lie between the lines: what both lines hold at
-/// such a pressure.
-struct Saettigung {
-  double t_b = leer, t_d = leer;      ///< bubble and dew temperature, °C
-  double h_l = leer, h_v = leer;      ///< kJ/kg
-  double rho_l = leer, rho_v = leer;  ///< kg/m³
-};
-Saettigung Saettigung_bei(Kaeltemittel& km, double p);
 
 Zustandspunkte Punkte_von(const LogpLauf& lauf);
 std::vector<Bilanz> Bilanzen_von(const LogpLauf& lauf);

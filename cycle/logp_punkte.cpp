@@ -8,7 +8,7 @@
 namespace polarkreis {
 namespace {
 
-constexpr double nullpunkt = 273.15;
+constexpr double nullpunkt = LogpLauf::nullpunkt;
 
 using Ort = LogpLauf::Ort;
 
@@ -41,11 +41,24 @@ class Sammler {
     const bool ueber = e_.transkritisch && stufe == Druckstufe::Hochdruck;
     return {name, p, ort.t, ort.h, ort.rho, stufe, ueber ? Lage::ueberkritisch : Lage::ueberhitzt};
   }
-  // A pure fluid has one temperature there, the one that was given.
+  // A pure fluid has one temperature there, the one that was given; not so a measured pressure.
   Saettigung bei(double p, double t) const {
     Saettigung s = Saettigung_bei(l_.km, p);
-    if (!l_.Gemisch) s.t_b = s.t_d = t;
+    if (!l_.Gemisch && !l_.gemessen) s.t_b = s.t_d = t;
     return s;
+  }
+  // Between the two lines; colder than the bubble line as liquid.
+  Zustandspunkt gedrosselt(std::string_view name, double h) const {
+    const Saettigung& s = l_.Mitte;
+    const double x = (h - s.h_l) / (s.h_v - s.h_l);
+    const bool fluessig = x < 0;
+    return {name,
+            e_.p_m,
+            fluessig ? l_.T_liq() - nullpunkt : s.t_b + x * (s.t_d - s.t_b),
+            h,
+            leer,
+            Druckstufe::Mitteldruck,
+            fluessig ? Lage::unterkuehlt : Lage::nass};
   }
 
   void verdichtung();
@@ -121,7 +134,7 @@ void Sammler::fluessigkeit() {
     haupt(punkt);
   };
   if (l_.Economiser) kuehle("economiser outlet", l_.u);
-  if (l_.f.Innen_WT) kuehle("internal heat exchanger outlet", l_.dT_liquid);
+  if (l_.dT_liquid != 0) kuehle("internal heat exchanger outlet", l_.dT_liquid);
   if (l_.f.dp_Fl > 0) {
     punkt.Name = "expansion valve inlet";
     punkt.p -= l_.f.dp_Fl / 1000;
@@ -140,17 +153,15 @@ void Sammler::zwischenstufe(std::size_t von) {
                             l_.Dampf.h,
                             l_.Dampf.rho,
                             mittel,
-                            l_.Dampf.t > e_.t_m ? Lage::ueberhitzt : Lage::Taulinie};
+                            l_.Dampf.t > l_.Mitte.t_d ? Lage::ueberhitzt : Lage::Taulinie};
   if (l_.Economiser) {
-    const std::size_t nass = neu(
-        {"economiser valve outlet", e_.p_m, e_.t_m, s_.Punkte[von].h, leer, mittel, Lage::nass});
+    const std::size_t nass = neu(gedrosselt("economiser valve outlet", s_.Punkte[von].h));
     s_.Wege.push_back({von, nass, neu(Dampf), Einlass_Hoch_});
     return;
   }
-  const std::size_t Tank =
-      haupt({"tank inlet", e_.p_m, e_.t_m, e_.h_liq, leer, mittel, Lage::nass});
-  haupt({"tank liquid", e_.p_m, e_.t_m, e_.h_l, l_.nieder.rho_lc, mittel, Lage::Siedelinie});
+  const std::size_t Tank = haupt(gedrosselt("tank inlet", e_.h_liq));
   if (e_.m_zu > 0) {
+    haupt({"tank liquid", e_.p_m, l_.Mitte.t_b, e_.h_l, l_.Mitte.rho_l, mittel, Lage::Siedelinie});
     neu(Dampf);
     Flashgas(Tank);
   }

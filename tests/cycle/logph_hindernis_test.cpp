@@ -84,7 +84,7 @@ TEST(LogphHindernis, AnIntermediatePressureOutsideTheOtherTwo) {
   p.form.p_m = leer;
   p.form.p_Int_Scroll = 9.4;
   EXPECT_EQ(p.hindernis(), Hindernis::Mitteldruck);
-  p.form.p_Int_Scroll = 9;
+  p.form.p_Int_Scroll = 5;
   EXPECT_TRUE(p.form.Rechnen());
 }
 
@@ -105,6 +105,58 @@ TEST(LogphHindernis, AHighPressureThatTheTableDoesntReach) {
     p.form.P_hoch = 4000;
     EXPECT_EQ(p.hindernis(), Hindernis::Kreis) << stufen;
   }
+}
+
+TEST(LogphHindernis, MeasuredPressuresThatCantBe) {
+  LogphPlatz p;
+  p.form.modul = "DiaG";
+  const std::pair<double, double> paare[] = {{0, 10}, {-1, 10}, {12, 10}, {10, 10}, {2, 0}};
+  for (const auto& [p0, pc] : paare) {
+    p.form.p0F = p0;
+    p.form.pcF = pc;
+    EXPECT_EQ(p.hindernis(), Hindernis::Druck) << p0 << " " << pc;
+  }
+}
+
+// 30 K of saturation temperature are more than the whole low pressure.
+TEST(LogphHindernis, ASuctionLineThatTakesAllPressure) {
+  LogphPlatz p;
+  p.form.C = 30;
+  EXPECT_EQ(p.hindernis(), Hindernis::Druck);
+}
+
+// The liquid would have to be warmed: (h_lc - h_l0) / (2 cp) is less than the 8 K that are kept.
+TEST(LogphHindernis, TemperaturesTooNearForAnEconomiser) {
+  LogphPlatz p("R134A", 5, 20);
+  p.form.ECO_OPT = 1;
+  EXPECT_EQ(p.hindernis(), Hindernis::Economiser);
+  p.form.ECO_OPT = 0;
+  EXPECT_TRUE(p.form.Rechnen());
+}
+
+TEST(LogphHindernis, AStageWithoutPower) {
+  LogphPlatz p("R227", -15, 35);
+  p.form.dT_sh = 8;
+  p.form.t_s = 3;
+  p.form.C = 1;
+  p.form.Innen_WT = true;
+  p.form.dT_liquid = 3;
+  p.form.Zweistufig = 1;
+  EXPECT_EQ(p.hindernis(), Hindernis::Kreis);
+}
+
+TEST(LogphHindernis, EmptyNumbersOfAPlantCountAsNone) {
+  LogphPlatz p;
+  const double P = p.rechne().P;
+  p.form.Innen_WT = true;
+  p.form.dT_liquid = leer;
+  p.form.C = leer;
+  p.form.dp_Fl = leer;
+  p.rechne();
+  EXPECT_NEAR(p.form.ergebnis().m, p.form.ergebnis().m_Modell, 1e-15);
+  EXPECT_NEAR(p.form.ergebnis().P, P, 1e-9);
+  EXPECT_EQ(p.figur("dpDL="), "dpDL=0 mbar");
+  EXPECT_EQ(p.figur("dpFl="), "dpFl=0 mbar");
 }
 
 TEST(LogphHindernis, NoPowerComesOut) {

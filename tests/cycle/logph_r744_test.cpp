@@ -67,14 +67,27 @@ TEST(LogphR744, TheDischargeEnthalpyOfADiagramIsTheTables) {
   Transkritisch p;
   const logp_H::Ergebnis& e = p.rechne();
   Schritte s(p);
+  s.z.Zweistufig = 2;
   s.punkt(-10, 35, 0);
   EXPECT_NEAR(e.t_d, s.Ende(p0_10, 90, 0), 1e-9);
+  EXPECT_NEAR(e.P, s.Leistung(p0_10, 90, e.m, 0), 1e-12) << "from the table";
   s.u.km.CO2_Tabelle(e.t_d + 273.15, 90, 2);
   EXPECT_EQ(e.h_d, s.z.h_d_co2);
   EXPECT_EQ(p.z.h_d_co2, s.z.h_d_co2);
   EXPECT_EQ(p.punkt("compressor outlet").h, s.z.h_d_co2);
   EXPECT_EQ(p.punkt("compressor outlet").rho, s.z.rho_d);
   EXPECT_EQ(p.punkt("compressor outlet").Ort, Lage::ueberkritisch);
+}
+
+// Whatever the number of stages is called, the power is that of the table.
+TEST(LogphR744, ATranscriticalCompressionTakesWhatItsPointsSay) {
+  for (const int stufen : {0, 1, 8}) {
+    Transkritisch p;
+    p.form.Zweistufig = stufen;
+    p.rechne();
+    const Bilanz b = p.bilanz(stufen == 0 ? "compressor" : "high stage");
+    EXPECT_NEAR(b.Rest(), 0, 0.05 * b.zu) << stufen;
+  }
 }
 
 TEST(LogphR744, BetweenThirtyAndThirtyOneDegreesItIsMovedToTheCriticalPoint) {

@@ -51,7 +51,9 @@ TEST(LogphZweistufig, BothStagesCompressWhatReachesThem) {
   EXPECT_NEAR(e.P_1, P_1, 1e-12);
   EXPECT_NEAR(p.punkt("low stage outlet").h, h_Dampf + cp_d1 * (t_d1 - t_m), 1e-9);
 
-  const double dT = e.m * (t_d1 - t_m) / e.m_hoch;
+  const double h_d1 = h_Dampf + cp_d1 * (t_d1 - t_m);
+  s.punkt(t_m, 40, t_m, 3);
+  const double dT = ((e.m * h_d1 + e.m_zu * h_Dampf) / e.m_hoch - h_Dampf) / s.z.cp_v0;
   s.punkt(t_m, 40, t_m + dT, 3);
   const double t_d = s.Ende(4, pc, t_m + dT), cp_d2 = s.z.cp_d;
   s.z.cp_d = (cp_d1 + cp_d2) / 2;
@@ -93,7 +95,41 @@ TEST(LogphZweistufig, LiquidColderThanTheTankMakesNoFlashGas) {
   EXPECT_EQ(e.m_zu, 0);
   EXPECT_EQ(e.m_hoch, e.m);
   EXPECT_FALSE(p.hat("tank vapour"));
+  EXPECT_FALSE(p.hat("tank liquid"));
+  EXPECT_EQ(e.h_l, e.h_liq);
+  EXPECT_EQ(p.punkt("tank inlet").Ort, Lage::unterkuehlt);
+  EXPECT_NEAR(p.punkt("tank inlet").t, 5, 1e-9);
+  EXPECT_TRUE(p.bilanz("flash tank").schliesst());
   EXPECT_EQ(p.form.punkte().Wege.size(), 1u);
+}
+
+// A blend's liquid is that of the bubble line at the tank's pressure, and its vapour of the dew
+// line.
+TEST(LogphZweistufig, ABlendsTankHoldsBothLines) {
+  LogphPlatz p("R455A", -30, 40);
+  p.form.Zweistufig = 1;
+  const logp_H::Ergebnis& e = p.rechne();
+  p.u.km.Sat_Suchen(e.p_m, 2);
+  EXPECT_NEAR(p.punkt("tank liquid").h, p.u.km.Sat_Wert(&SatZeile::h_l, e.p_m), 1e-9);
+  EXPECT_NEAR(p.punkt("tank liquid").t, p.u.km.Sat_Wert(&SatZeile::p_b, e.p_m) - 273.15, 1e-9);
+  EXPECT_NEAR(p.punkt("tank vapour").t, e.t_m, 1e-9);
+  EXPECT_LT(p.punkt("tank liquid").t, p.punkt("tank inlet").t);
+  EXPECT_LT(p.punkt("tank inlet").t, p.punkt("tank vapour").t);
+  EXPECT_TRUE(p.bilanz("mixing").schliesst());
+}
+
+TEST(LogphZweistufig, AMeasuredMiddlePressureGoesByTheMeasuredOnes) {
+  LogphPlatz p;
+  p.form.modul = "DiaG";
+  p.form.Zweistufig = 1;
+  p.form.p0F = 1.8;
+  p.form.pcF = 9;
+  p.form.p_m = 1.7;
+  EXPECT_EQ(p.hindernis(), Hindernis::Mitteldruck);
+  p.form.p_m = 9.5;
+  EXPECT_EQ(p.hindernis(), Hindernis::Mitteldruck);
+  p.form.p_m = 4;
+  EXPECT_TRUE(p.form.Rechnen());
 }
 
 TEST(LogphZweistufig, AMeasuredInletOfTheHighStageIsThatOfTheMixture) {
@@ -118,8 +154,11 @@ TEST(LogphZweistufig, WithInjectionItIsThatOfTheVapourThatJoins) {
   EXPECT_EQ(dampf.t, 14);
   EXPECT_EQ(dampf.Ort, Lage::ueberhitzt);
   EXPECT_GT(dampf.h, h_Dampf);
-  const double dT = (e.m_zu * (14 - e.t_m) + e.m * (e.t_d1 - e.t_m)) / e.m_hoch;
-  EXPECT_NEAR(p.punkt("high stage inlet").t, e.t_m + dT, 1e-9);
+  const double h = (e.m_zu * dampf.h + e.m * p.punkt("low stage outlet").h) / e.m_hoch;
+  Schritte s(p);
+  s.punkt(e.t_m, 40, 14, 3);
+  EXPECT_NEAR(p.punkt("high stage inlet").h, h, 1e-9);
+  EXPECT_NEAR(p.punkt("high stage inlet").t, e.t_m + (h - h_Dampf) / s.z.cp_v0, 1e-9);
 }
 
 TEST(LogphZweistufig, AnOpenSensorOrAnotherCallerLeavesTheMixtureToTheFlows) {
