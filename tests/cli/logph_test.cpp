@@ -310,3 +310,10 @@ TEST(Logph, TheDiagramGoesBesideTheJson) {
   ASSERT_EQ(daten.rufe(stoff("R134A", "-10", "40", {"--svg", "d.svg"})).status, 0);
   EXPECT_EQ(daten.lies("d.svg"), erst) << "equal calls give equal files";
 }
+
+TEST(Logph, TheDiagramsFolderIsMade) {
+  const Datenkopie daten;
+  const Antwort a = daten.rufe(stoff("R134A", "-10", "40", {"--svg", "new/folder/d.svg"}));
+  ASSERT_EQ(a.status, 0) << a.fehler;
+  EXPECT_TRUE(daten.lies("new/folder/d.svg").ends_with("</svg>\n"));
+}

@@ -89,6 +89,7 @@ struct Fall {
 };
 constexpr Fall rein[] = {{"R134A", -10, 40}, {"R717", -30, 35}, {"R290", -20, 45},
                          {"R23", -80, -20},  {"R507", -35, 40}, {"R744", -35, 20}};
+constexpr Fall Gemische[] = {{"R407C", -25, 40}, {"R448A", -30, 35}, {"R454C", -20, 45}};
 
 }  // namespace
 
@@ -191,7 +192,7 @@ TEST(LogphPunkte, OneStageLiesWhereItSays) {
 }
 
 TEST(LogphPunkte, ABlendLiesWhereItSays) {
-  for (const Fall& fall : {Fall{"R407C", -10, 40}, {"R448A", -30, 35}, {"R454C", -20, 45}}) {
+  for (const Fall& fall : Gemische) {
     LogphPlatz p(fall.mittel, fall.t0, fall.tc);
     p.form.dp_Fl = 300;
     p.form.dT_sc = 6;
@@ -202,7 +203,9 @@ TEST(LogphPunkte, ABlendLiesWhereItSays) {
 }
 
 TEST(LogphPunkte, TwoStagesLieWhereTheySay) {
-  for (const Fall& fall : rein) {
+  std::vector<Fall> faelle(std::begin(rein), std::end(rein));
+  faelle.insert(faelle.end(), std::begin(Gemische), std::end(Gemische));
+  for (const Fall& fall : faelle) {
     for (const int economiser : {0, 1}) {
       LogphPlatz p(fall.mittel, fall.t0, fall.tc);
       p.form.Zweistufig = 1 - economiser;
