@@ -132,6 +132,23 @@ TEST(LogpLinien, SupercriticalIsothermsRiseInPressureAndComeFromTheFile) {
   }
 }
 
+TEST(LogpLinien, AFileInAnotherOrderGivesTheSameIsotherms) {
+  const TempOrdner ordner;
+  std::filesystem::copy_file(std::string(POLARKREIS_DATA) + "/CO2.DAT", ordner.pfad("CO2.DAT"));
+  ordner.schreib("CO2_sh01.dat",
+                 "40,100,313,0.0016,5.6,0.00005\n50,100,360,0.002,4,0.00004\n"
+                 "40,80,400,0.004,5,0.00003\n40,90,350,0.002,8,0.00004\n");
+  KaeltemittelUmgebung u("R744", ordner.pfad());
+  const Logp_Linien l = logp_Linien(u.km);
+  ASSERT_EQ(l.Ueberkritisch.size(), 2u);
+  EXPECT_EQ(l.Ueberkritisch[0].Wert, 40);
+  EXPECT_EQ(l.Ueberkritisch[1].Wert, 50);
+  std::vector<double> drucke;
+  for (const Diagrammort& ort : l.Ueberkritisch[0].Orte) drucke.push_back(ort.p);
+  EXPECT_EQ(drucke, (std::vector<double>{80, 90, 100}));
+  EXPECT_EQ(l.Ueberkritisch[0].Orte[0].h, 400);
+}
+
 // Every 2 °C up to 40 °C, where they lie far apart; from there on every 10.
 TEST(LogpLinien, TheyAreCloserNearTheCriticalPoint) {
   const Logp_Linien l = linien("R744");

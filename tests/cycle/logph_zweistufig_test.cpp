@@ -196,4 +196,8 @@ TEST(LogphZweistufig, AHeatExchangerInFrontOfTheTankLeavesLessFlashGas) {
   Schritte s(mit);
   s.punkt(-30, 40, -20, 3);
   EXPECT_NEAR(a.t_s, -20 + cp_l / s.z.cp_v0 * 5, 1e-9);
+  // The low stage takes the warmer vapour.
+  s.punkt(-30, t_m, a.t_s);
+  EXPECT_NEAR(a.t_d1, s.Ende(a.p_s, 4, a.t_s), 1e-9);
+  EXPECT_NEAR(a.P_1, s.Leistung(a.p_s, 4, a.m, a.t_s), 1e-12);
 }
