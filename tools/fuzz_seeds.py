@@ -52,6 +52,11 @@ def seeds():
     yield "antwort", "base", f"{values[0]} T02.03.2026 06:00:00 ok\r\n".encode()
     yield "antwort", "box", f"{values[1]} M02.03.2026 06:00:00 ok\r\n".encode()
     yield "antwort", "echo", b"ec %*\r" + f"{values[0]}  -1 1e999 -- ok".encode()
+    index = b'"AAAAAAA","Maker","Compressors","2"\r\n"AAAAAAA","Maker","Others","51"\r\n'
+    records = (DATA / "VERDICHN.rdm").read_bytes()[:570 * 8]
+    texts = (DATA / "VERDICHI.rdm").read_bytes()[:128 * 3]
+    yield "katalog", "whole", b"%\n".join([index, b"AAAAAAA Compressors\r\n", b"BB\r\n", b"", texts, records])
+    yield "katalog", "list", b"%\n".join([b"", b"", b"AA", b'"AAAAAAAN.rdm","Text","2"\r\n', b"", records[:1000]])
 
 
 def main():
