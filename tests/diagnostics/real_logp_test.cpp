@@ -103,8 +103,10 @@ TEST(RealLogp, TheRowIsTheOneThatIsAsked) {
 TEST(RealLogp, RowsOutsideTheMeasurementGiveNothing) {
   Gemessen d;
   d.gerechnet();
+  d.messung.DiaSpread.kopieren(3, 2);  // a heading with the same texts
+  d.messung.DiaSpread.kopieren(3, 5);  // behind the gap that ends the measurement
   d.form.t0F = -77;
-  for (const int zeile : {-5, 0, 2, 4, 500}) {
+  for (const int zeile : {-5, 0, 2, 4, 5, 500}) {
     EXPECT_FALSE(d.uebernommen(zeile)) << zeile;
     EXPECT_EQ(d.form.t0F, -77) << "the form stays";
     EXPECT_EQ(d.form.modul, "MonoF");
@@ -145,15 +147,34 @@ TEST(RealLogp, AMarkedEndOfCompressionIsTheModels) {
 }
 
 TEST(RealLogp, RemoteSensorsCountWhereTheUnitIsTheCompressorsOwn) {
+  const int t_Exp = Spalte::von(Spalte::E_t_Exp, 1), t_liq = Spalte::von(Spalte::E_t_liq, 1);
   Gemessen d;
   d.einheit(1, VerbCapt::Verdichter);
-  d.gerechnet({{Spalte::von(Spalte::E_t_Exp, 1), "-99"}});
+  d.gerechnet();
+  ASSERT_TRUE(d.uebernommen());
+  d.setze({{t_Exp, "-99"}});
   EXPECT_FALSE(d.uebernommen()) << "the remote bulb is open";
-  d.setze({{Spalte::von(Spalte::E_t_Exp, 1), "  -"}});
-  d.rechne();
+  d.setze({{t_Exp, "  -"}});
   EXPECT_TRUE(d.uebernommen()) << "there is none";
-  d.setze({{Spalte::von(Spalte::E_t_liq, 1), "-99"}});
+  d.setze({{t_liq, "-99"}});
   EXPECT_FALSE(d.uebernommen());
+}
+
+TEST(RealLogp, ARemoteUnitHasABulbAndNoLiquidLine) {
+  const int t_Exp = Spalte::von(Spalte::E_t_Exp, 1), t_liq = Spalte::von(Spalte::E_t_liq, 1);
+  Gemessen d;
+  d.einheit(1, VerbCapt::Verdichter_Fernfuehler);
+  d.gerechnet();
+  ASSERT_EQ(d.kern.Funktion.Sensor_Code[1], F_Fernfuehler);
+  d.setze({{t_liq, "-99"}});
+  EXPECT_TRUE(d.uebernommen());
+  d.setze({{t_Exp, "-99"}});
+  EXPECT_FALSE(d.uebernommen());
+  Gemessen andere;  // any other unit's sensors stand elsewhere
+  andere.einheit(1, VerbCapt::Economiser);
+  andere.gerechnet();
+  andere.setze({{t_Exp, "-99"}, {t_liq, "-99"}});
+  EXPECT_TRUE(andere.uebernommen());
 }
 
 TEST(RealLogp, ARefrigerantWithoutATableWasNeverComputed) {

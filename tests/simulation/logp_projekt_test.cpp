@@ -32,10 +32,11 @@ class LogpProjekt : public ::testing::Test {
 TEST_F(LogpProjekt, TheFormHasWhatThePointWorksWith) {
   for (const char* name : Beispiele) {
     w.oeffne(name);
+    w.km.z.RefName = "of another plant";
     const Anlage a = uebernommen();
+    EXPECT_EQ(w.km.z.RefName, a.Kaeltemittel) << name;
     const Punktwerte p = punkt();
     EXPECT_EQ(form.modul, "SIM_PRO") << name;
-    EXPECT_EQ(w.km.z.RefName, a.Kaeltemittel) << name;
     EXPECT_EQ(form.t0F, p.t0_eff) << name;
     EXPECT_EQ(form.tcF, p.tc_eff) << name;
     EXPECT_EQ(form.dT_sh, p.superheat) << name;
