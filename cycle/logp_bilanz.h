@@ -6,8 +6,8 @@
 namespace polarkreis {
 
 /// The balance of one component: what enters and what leaves it by the state points and flows of
-/// the cycle. The stated formulas are fitted, so that not every balance closes; the rest shows by
-/// how much.
+/// the cycle. The formulas are fitted, so that not every balance closes; the rest shows by how
+/// much.
 struct Bilanz {
   /// Work isn't balanced, but compared: what is spent against a loss-free compression of an ideal
   /// gas.

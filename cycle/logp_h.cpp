@@ -127,7 +127,8 @@ void logp_H::beschriften(const LogpLauf& lauf) {
   druckverlust("dpFl=", ist_leer(dp_Fl) ? 0 : dp_Fl);
   figuren_.push_back({"dho=", gezeigt(EnthDiff), " kJ/kg"});
   figuren_.push_back({"  dho =", gezeigt(EnthDiff), " kJ/kg"});
-  figuren_.push_back({"  toh = ", gezeigt(einheiten_.Temperaturdifferenz(lauf.dT_sh)), " K"});
+  figuren_.push_back({"  toh = ", gezeigt(einheiten_.Temperaturdifferenz(lauf.dT_sh)),
+                      einheiten_.angelsaechsisch ? grad : " K"});
   figuren_.push_back({"  tSL = ", temperatur(e_.t_s), grad});
   figuren_.push_back({" DIN  Qo/Q EN 12900 = ", Zahl_Text(VerdLeist_DIN), " %"});
   if (ist_leer(tGlide)) return;

@@ -25,12 +25,13 @@ enum class Schaltung {
 /// Why no cycle came out.
 enum class Hindernis {
   keines,
-  Mittel,       ///< the designation is unknown, or its table is missing
-  Temperatur,   ///< a temperature is empty, outside the table, or t0 isn't below tc
-  Druck,        ///< the low pressure isn't above 0 or not below the high one, losses included
-  Mitteldruck,  ///< the intermediate pressure doesn't lie between the other two
-  Economiser,   ///< the temperatures lie too near for one
-  Kreis         ///< no power comes out at this point
+  Mittel,        ///< the designation is unknown, or its table is missing
+  Temperatur,    ///< a temperature is empty, outside the table, or t0 isn't below tc
+  Druck,         ///< the low pressure isn't above 0 or not below the high one, losses included
+  Mitteldruck,   ///< the intermediate pressure doesn't lie between the other two
+  Fluessigkeit,  ///< the liquid would be colder than the evaporator
+  Economiser,    ///< the temperatures lie too near for one
+  Kreis          ///< no power comes out at this point
 };
 
 /// One figure printed beside the diagram: literal, value, unit.
@@ -46,7 +47,7 @@ struct Druckfigur {
 /// (single-point form) and "2stage" (two-stage plant).
 ///
 /// It goes by what `KreisPunkt` and its models give and adds suction line, internal heat exchanger,
-/// economiser and intermediate pressure. Where the rule leaves the plant open, physics settles it:
+/// economiser and intermediate pressure. Where these leave the plant open, physics settles it:
 ///
 /// - **Subcooling.** `dT_sc` is behind the condenser. The whole that the liquid is cooled by, which
 ///   stands in the record, also counts the economiser's `u` and the internal heat exchanger's
@@ -57,12 +58,13 @@ struct Druckfigur {
 ///   condenser; the power is that of `KM_Massenstrom`'s flow, which stands for both, as in the
 ///   annual simulation. Where the vapour meets the compression is drawn, not worked out.
 /// - **Two stages** (`Zweistufig` not 0): the second pass is the low stage. The vapour that joins
-///   between them is saturated (in a measured row as warm as measured), mixes with what the low
-///   stage delivers, enthalpy with enthalpy, and a third pass is the high stage. A tank separates
-///   the flash gas: its flow is that of the tank's energy balance; with an economiser it is
-///   `KM_Massenstrom`'s.
+///   between them is saturated (in a measured row as warm as measured) and mixes with what the low
+///   stage delivers by their superheat, as in the evaluation of a measured row; a third pass is the
+///   high stage. A tank separates the flash gas: its flow is that of the tank's energy balance;
+///   with an economiser it is `KM_Massenstrom`'s.
 /// - **Transcritical R744** takes its power from its table for any number of stages, as the annual
-///   simulation does; with one compressor `Zweistufig` counts as 2.
+///   simulation does; with one compressor `Zweistufig` counts as 2. Where the end of compression
+///   lies above that table (200 °C) no cycle comes out.
 /// - **R744 of the annual simulation** (transcritical, no economiser) has a tank, but no second
 ///   stage: the flash gas goes into the suction line, or to a compressor of its own
 ///   (`ParaL_Check`). Then all is compressed from the low to the high pressure at once.

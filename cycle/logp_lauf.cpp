@@ -64,13 +64,16 @@ Hindernis LogpLauf::rechne() {
   leitungen();
   if (!std::isfinite(e.p_d - e.p_s)) return Hindernis::Kreis;
   if (!Drucke_moeglich()) return Hindernis::Druck;
+  if (e.h_l < nieder.h_l0) return Hindernis::Fluessigkeit;
   verdichtung();
   abschliessen();
   return Ergebnis_moeglich() ? Hindernis::keines : Hindernis::Kreis;
 }
 
 bool LogpLauf::Drucke_moeglich() const {
-  return e.p_s > 0 && e.p_s < e.p_d && (!gestuft || (e.p_s < e.p_m && e.p_m < e.p_d));
+  const double p_Ventil = e.pc - oder_null(f.dp_Fl) / 1000;
+  return e.p_s > 0 && e.p_s < e.p_d && p_Ventil > e.p0 &&
+         (!gestuft || (e.p_s < e.p_m && e.p_m < e.p_d));
 }
 
 /// A flow or a power that isn't above 0 belongs to no plant.
@@ -149,9 +152,10 @@ Hindernis LogpLauf::zwischendruck() {
   setze(e.t_m, km.Sat_Wert(&SatZeile::p_d, e.p_m) - nullpunkt);
   const std::vector<SatZeile>& tabelle = km.Tabellenzeilen();
   const double T_m = e.t_m + nullpunkt;
-  const bool zwischen = p0 < e.p_m && e.p_m < pc && f.t0F < e.t_m && e.t_m < f.tcF;
-  if (!zwischen || T_m > tabelle.back().T || T_m - Schritt_cp <= tabelle.front().T)
-    return Hindernis::Mitteldruck;
+  const bool in_Tabelle = tabelle.front().p_d < e.p_m && e.p_m <= tabelle.back().p_d;
+  const bool zwischen = in_Tabelle && p0 < e.p_m && e.p_m < pc && f.t0F < e.t_m && e.t_m < f.tcF;
+  if (!zwischen || T_m - Schritt_cp <= tabelle.front().T) return Hindernis::Mitteldruck;
+  // The order of R744's two stages; what counts is worked out anew behind it.
   if (km.ist_CO2() && f.Zweistufig != 0) {
     unterkuehlung = Unterkuehlung_CO2;
     kreis.KreisPunkt(f.t0F, f.t0F + Vorpunkt_dT, t_s_ohne, unterkuehlung);
@@ -246,6 +250,7 @@ void LogpLauf::abschliessen() {
   z.T_is = zuletzt.T_is;
   z.h_d_co2 = zuletzt.h_d_co2;
   z.rho_d = zuletzt.rho_d;
+  if (f.Zweistufig == 0) z.Zweistufig = 0;
   z.m_punkt = e.m;
   setze(z.m_eco, e.m_zu);
   z.p_m = e.p_m;

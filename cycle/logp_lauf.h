@@ -55,7 +55,6 @@ class LogpLauf {
   double h_lc = leer;   ///< liquid at the end of condensation
   KMZustand haupt;      ///< the whole pressure range, with what the heat exchanger changed
   KMZustand nieder;     ///< what the evaporator works at: the low stage, or the same
-  KMZustand hoch;       ///< the high stage, or the flash gas' own compressor
   Ort Saug;             ///< where the first compression begins
   Ort Ende1;            ///< where it ends
   Ort Dampf;            ///< vapour that joins at the intermediate pressure
@@ -80,15 +79,18 @@ class LogpLauf {
   bool Drucke_moeglich() const;
   bool Ergebnis_moeglich() const;
   void mische();
-  void ein_Verdichter();
+  void ein_Verdichter(double m);
   void unterste_Stufe();
   void zweite_Stufe();
   void Flashgas_in_Saug();
   void Flashgas_eigen();
-  double ideal(const Ort& ein, double p_s, double p_d, double m) const;
-  double Leistung(const Ort& ein, double p_s, double p_d, double m, double t_d, int mode);
-  Ort Ende_auf(double p_s, double p_d, double t_ein);
+  double h_Hochdruck(double t) const;
+  Ort Saugzustand(double t) const;
+  double Endtemperatur(const Ort& ein, double p_s, double p_d);
   Ort Hochdruckende(double t_d);
+  double ideal(const Ort& ein, double p_s, double p_d, double m) const;
+  double Leistung(const Ort& ein, double p_s, double p_d, double m, double t_end);
+  double gemessenes_Ende() const;
   void leitungen();
 
   const std::string modul_davor_;

@@ -47,7 +47,7 @@ std::vector<Wertlinie> ueberkritisch(const std::vector<CO2Zeile>& zeilen) {
     if (gezeigt(zeile.t)) nach_t[zeile.t].push_back({zeile.h, zeile.p});
   std::vector<Wertlinie> linien;
   for (auto& [t, orte] : nach_t) {
-    std::ranges::stable_sort(orte, {}, &Diagrammort::p);
+    std::ranges::sort(orte, {}, &Diagrammort::p);
     linien.push_back({t, std::move(orte)});
   }
   return linien;

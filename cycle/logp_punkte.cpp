@@ -66,6 +66,7 @@ class Sammler {
   void einspritzung();
   void verfluessigung();
   void fluessigkeit();
+  Zustandspunkt vor_Ventil(Zustandspunkt punkt) const;
   void zwischenstufe(std::size_t von);
   void Flashgas(std::size_t Tank);
   void verdampfung();
@@ -138,9 +139,20 @@ void Sammler::fluessigkeit() {
   if (l_.f.dp_Fl > 0) {
     punkt.Name = "expansion valve inlet";
     punkt.p -= l_.f.dp_Fl / 1000;
-    haupt(punkt);
+    haupt(vor_Ventil(punkt));
   }
   if (l_.gestuft) zwischenstufe(Abzweig);
+}
+
+/// Too great a loss of the liquid line makes vapour in front of the valve.
+Zustandspunkt Sammler::vor_Ventil(Zustandspunkt punkt) const {
+  if (e_.transkritisch) return punkt;
+  const Saettigung s = Saettigung_bei(l_.km, punkt.p);
+  const double x = (punkt.h - s.h_l) / (s.h_v - s.h_l);
+  if (x <= 0) return punkt;
+  punkt.Ort = Lage::nass;
+  punkt.t = s.t_b + x * (s.t_d - s.t_b);
+  return punkt;
 }
 
 /// Economiser: a part of the liquid is throttled and evaporates against the rest. Tank: all of it
@@ -172,10 +184,11 @@ void Sammler::Flashgas(std::size_t Tank) {
   if (e_.Art == Schaltung::zweistufig) {
     s_.Wege.push_back({Tank, Dampf, Einlass_Hoch_});
   } else if (e_.Art == Schaltung::Flashgas_Saug) {
-    const double t = l_.f.t0F + (l_.Dampf.h - l_.nieder.h_v0) / l_.nieder.cp_v0;
-    const bool feucht = l_.Dampf.h < l_.nieder.h_v0;
+    const Saettigung s = Saettigung_bei(l_.km, e_.p_s);
+    const double t = s.t_d + (l_.Dampf.h - s.h_v) / l_.nieder.cp_v0;
+    const bool feucht = l_.Dampf.h < s.h_v;
     const std::size_t gedrosselt =
-        neu({"flash gas throttled", e_.p_s, feucht ? l_.f.t0F : t, l_.Dampf.h, leer,
+        neu({"flash gas throttled", e_.p_s, feucht ? s.t_d : t, l_.Dampf.h, leer,
              Druckstufe::Niederdruck, feucht ? Lage::nass : Lage::ueberhitzt});
     s_.Wege.push_back({Tank, Dampf, gedrosselt, Einlass_Saug_});
   } else {

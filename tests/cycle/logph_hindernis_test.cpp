@@ -126,6 +126,47 @@ TEST(LogphHindernis, ASuctionLineThatTakesAllPressure) {
 }
 
 // The liquid would have to be warmed: (h_lc - h_l0) / (2 cp) is less than the 8 K that are kept.
+// The table of R744 ends at 200 °C; what an earlier search found there must not stand in.
+TEST(LogphHindernis, AnEndOfCompressionAboveTheTableOfR744) {
+  for (const double dT : {8.0, 10.0, 12.0}) {
+    LogphPlatz p("R744", -10, 35);
+    p.form.Innen_WT = true;
+    p.form.dT_liquid = dT;
+    EXPECT_EQ(p.hindernis(), Hindernis::Kreis) << dT;
+    p.form.dT_liquid = 3;
+    EXPECT_TRUE(p.form.Rechnen());
+    EXPECT_GT(p.form.ergebnis().h_d, 526.02);
+  }
+}
+
+TEST(LogphHindernis, LiquidColderThanTheEvaporator) {
+  LogphPlatz p;
+  p.form.dT_sc = 60;
+  EXPECT_EQ(p.hindernis(), Hindernis::Fluessigkeit);
+  p.form.dT_sc = 40;
+  EXPECT_TRUE(p.form.Rechnen());
+}
+
+TEST(LogphHindernis, ALiquidLineThatTakesAllPressure) {
+  LogphPlatz p;
+  p.form.dp_Fl = 20000;
+  EXPECT_EQ(p.hindernis(), Hindernis::Druck);
+  p.form.dp_Fl = 8000;
+  EXPECT_TRUE(p.form.Rechnen());
+  EXPECT_EQ(p.punkt("expansion valve inlet").Ort, Lage::nass);
+  EXPECT_LT(p.punkt("expansion valve inlet").t, 0);
+}
+
+TEST(LogphHindernis, AnIntermediatePressureAboveTheTableOfR744) {
+  for (const double Abstand : {46.0, 60.0}) {
+    LogphPlatz p("R744", -10, 36);
+    p.form.P_hoch = 95;
+    p.form.Zweistufig = 1;
+    p.form.p_Int_Scroll = Abstand;
+    EXPECT_EQ(p.hindernis(), Hindernis::Mitteldruck) << Abstand;
+  }
+}
+
 TEST(LogphHindernis, TemperaturesTooNearForAnEconomiser) {
   LogphPlatz p("R134A", 5, 20);
   p.form.ECO_OPT = 1;
