@@ -73,6 +73,8 @@ std::string_view grund(Hindernis hindernis) {
       return "temperature";
     case Hindernis::Druck:
       return "pressure";
+    case Hindernis::Fluessigkeit:
+      return "liquid";
     case Hindernis::Economiser:
       return "economiser";
     case Hindernis::Mitteldruck:
@@ -82,7 +84,13 @@ std::string_view grund(Hindernis hindernis) {
   }
 }
 
+bool ist_modul(const std::string& name) {
+  return name == "SIM_PRO" || name == "DiaG" || name == "MonoF" || name == "2stage";
+}
+
 Antwort logph(Rechenstand& r, const Argumente& a) {
+  if (a.da("modul") && !ist_modul(a.text("modul")))
+    return misslingt("logp_H: \"modul\" must be SIM_PRO, DiaG, MonoF or 2stage");
   felder_setzen(r.logph, a);
   if (!r.logph.Rechnen()) return {{{"hindrance", grund(r.logph.hindernis())}}, {}};
   return {logph_json(r.logph), {}};

@@ -6,9 +6,11 @@
 #include "konsole.h"
 #include "logph_anlage.h"
 #include "logph_bild.h"
+#include "logph_hinweise.h"
 #include "logph_json.h"
 #include "projektwahl.h"
 #include "reports/schaubild_svg.h"
+#include "shell/text.h"
 #include "sitzung.h"
 #include "stoff.h"
 #include "zahlen.h"
@@ -17,6 +19,8 @@
 namespace polarkreis::cli {
 
 namespace {
+
+constexpr int kZeilen_hoechstens = 1'000'000;  // above any measurement
 
 void punkte_drucken(const logp_H& form, const Einheiten& einheiten) {
   Tabelle tabelle{{"", "State", "p " + std::string(form.Druckeinheit()),
@@ -50,45 +54,58 @@ void bilanzen_drucken(const logp_H& form) {
   drucke(arbeit);
 }
 
-// Liquid can't be cooled by vapour that is warmer.
-void economiser_pruefen(const logp_H& form) {
-  const Zustandspunkt* kalt = form.punkte().finde("economiser outlet");
-  const Zustandspunkt* dampf = form.punkte().finde("economiser vapour");
-  if (kalt && dampf && kalt->t < dampf->t)
-    melde("The economiser evaporates at " + anzeige(dampf->t) +
-          " °C, but its liquid leaves it at " + anzeige(kalt->t) +
-          " °C: no heat exchanger does that. Take a lower intermediate pressure " +
-          "(--p-int, --p-m).");
+// What the diagram can't tell of the evaporator.
+void ablesungen_drucken(const logp_H& form, const Einheiten& einheiten) {
+  Tabelle tabelle;
+  const auto zeile = [&](const char* name, double wert, std::string_view einheit) {
+    if (!ist_leer(wert)) tabelle.zeilen.push_back({name, anzeige(wert), std::string(einheit)});
+  };
+  zeile("Enthalpy of the saturated vapour", form.hsF, "kJ/kg");
+  zeile("Enthalpy behind the evaporator", form.hTF, "kJ/kg");
+  zeile("Density of the saturated vapour", form.rhoSF, "kg/m³");
+  zeile("Density at the compressor inlet", form.rhoTF, "kg/m³");
+  zeile("Vapour content behind the valve", form.xDampf, "");
+  zeile("Glide at the evaporating pressure", einheiten.Temperaturdifferenz(form.tGlide),
+        einheiten.angelsaechsisch ? "°F" : "K");
+  drucke(tabelle);
 }
 
-// A model that asks for less work than physics does would make a plant look too good.
-void arbeit_pruefen(const logp_H& form) {
-  for (const Bilanz& b : form.bilanzen())
-    if (b.Groesse == Bilanz::Art::Arbeit && !b.schliesst())
-      melde("The fitted discharge temperature gives the " + std::string(b.Bauteil) + " " +
-            anzeige(b.zu) + " kW where a loss-free compression needs about " + anzeige(b.ab) +
-            " kW: EER and end temperature look better than they can be.");
+std::string punkttext(const logp_H& form, const Einheiten& einheiten) {
+  const std::string grad = " " + std::string(einheiten.Temperatureinheit());
+  return "t0 = " + anzeige(einheiten.Temperatur(form.t0F)) + grad +
+         ", tc = " + anzeige(einheiten.Temperatur(form.tcF)) + grad + ", flows and powers for " +
+         anzeige(logp_H::Q0) + " kW of cooling";
 }
 
 void drucke_fuer_leute(const logp_H& form, const Einheiten& einheiten, const std::string& was) {
-  std::printf("%s, %s\n%s\n\n", form.Mittel_GWP().c_str(),
-              std::string(Name_von(form.ergebnis().Art)).c_str(), sichtbar(was).c_str());
+  std::printf("%s, %s\n", form.Mittel_GWP().c_str(),
+              std::string(Name_von(form.ergebnis().Art)).c_str());
+  if (!was.empty()) std::printf("%s\n", sichtbar(was).c_str());
+  std::printf("%s\n\n", punkttext(form, einheiten).c_str());
   punkte_drucken(form, einheiten);
   std::printf("\n");
   for (const Druckfigur& figur : form.figuren()) std::printf("%s\n", figur.Text().c_str());
   std::printf("\n");
+  ablesungen_drucken(form, einheiten);
+  std::printf("\n");
   bilanzen_drucken(form);
 }
 
-[[noreturn]] void scheitern(const Programm& p, const logp_H& form) {
+[[noreturn]] void scheitern(const Programm& p, const logp_H& form, const Einheiten& einheiten) {
   switch (form.hindernis()) {
     case Hindernis::Mittel:
       throw Abbruch(tabelle_fehlt(p));
     case Hindernis::Temperatur:
-      throw Abbruch("The temperatures " + anzeige(form.t0F) + " °C and " + anzeige(form.tcF) +
-                    " °C give no cycle: the first must be the lower one, and both must lie inside "
+      throw Abbruch("The temperatures " + anzeige(einheiten.Temperatur(form.t0F)) + " and " +
+                    anzeige(einheiten.Temperatur(form.tcF)) + " " +
+                    std::string(einheiten.Temperatureinheit()) +
+                    " give no cycle: the first must be the lower one, and both must lie inside "
                     "the table " +
                     p.km.z.RefFile + ".");
+    case Hindernis::Fluessigkeit:
+      throw Abbruch(
+          "The liquid in front of the expansion valve would be colder than the evaporator. Take "
+          "less subcooling (--subcooling, --ihx).");
     case Hindernis::Druck:
       throw Abbruch(
           "The pressures give no cycle: the low one must be above 0 and below the high one, the "
@@ -104,8 +121,9 @@ void drucke_fuer_leute(const logp_H& form, const Einheiten& einheiten, const std
     default:
       throw Abbruch(
           "No cycle comes out at this point: the tables hold no such state, or a compression "
-          "comes out without power because its pressures lie too near each other. Check the "
-          "temperatures, the high and the intermediate pressure and the superheat.");
+          "comes out without power because its pressures lie too near each other, or ends above "
+          "the table of R744 (200 °C). Check the temperatures, the high and the intermediate "
+          "pressure, the superheat and the heat exchanger.");
   }
 }
 
@@ -113,22 +131,31 @@ void bild_schreiben(Sitzung& sitzung, const Logph_Wuensche& w, const logp_H& for
                     const Logp_Linien& linien, const Einheiten& einheiten, const std::string& was) {
   Ablage& ablage = sitzung.programm().ablage;
   const std::string ziel = zielpfad(w.svg);
-  const std::string titel = std::string(Name_von(form.ergebnis().Art)) + ", " + was;
+  const std::string titel = (was.empty() ? "" : was + ": ") +
+                            std::string(Name_von(form.ergebnis().Art)) + ", " +
+                            punkttext(form, einheiten);
   if (!ablage.schreib_ganz(ziel, SVG_Text(logph_Bild(form, linien, einheiten, titel))))
     throw Abbruch(grund(ablage, "The diagram could not be written."));
-  if (!w.json) std::printf("\nDiagram: %s\n", ziel.c_str());
+}
+
+// A slip of the keyboard must not cost a project.
+void ziel_pruefen(const std::string& svg) {
+  if (!svg.empty() && !gross(svg).ends_with(".SVG"))
+    throw CLI::ValidationError("--svg", "give a file name that ends in .svg");
 }
 
 void ausfuehren(Sitzung& sitzung, const Logph_Wuensche& w) {
+  ziel_pruefen(w.svg);
   Programm& p = sitzung.programm();
   const Einheiten einheiten = Einheiten::von(p.einstellungen[Einstellungen::Einheiten]);
   logp_H form(p.kreis, einheiten);
   const std::string was = logph_Anlage(sitzung, w, form);
-  if (!form.Rechnen()) scheitern(p, form);
-  arbeit_pruefen(form);
-  economiser_pruefen(form);
+  if (!form.Rechnen()) scheitern(p, form, einheiten);
+  for (const std::string& satz : logph_Hinweise(form, p.km.z)) melde(satz);
   const Json zustand = zustand_json(p.km.z);
   const Logp_Linien linien = logp_Linien(p.km);
+  // First what can fail: who reads the figures must not have to look behind them.
+  if (!w.svg.empty()) bild_schreiben(sitzung, w, form, linien, einheiten, was);
   if (w.json) {
     Json json = logph_json(form);
     json["lines"] = linien_json(linien);
@@ -136,8 +163,8 @@ void ausfuehren(Sitzung& sitzung, const Logph_Wuensche& w) {
     drucke(json);
   } else {
     drucke_fuer_leute(form, einheiten, was);
+    if (!w.svg.empty()) std::printf("\nDiagram: %s\n", zielpfad(w.svg).c_str());
   }
-  if (!w.svg.empty()) bild_schreiben(sitzung, w, form, linien, einheiten, was);
 }
 
 void anlage_anmelden(CLI::App& befehl, Logph_Wuensche& w) {
@@ -188,7 +215,7 @@ void logph_anmelden(CLI::App& app, Sitzung& sitzung) {
                    "Caller: SIM_PRO (project), DiaG (measured row), MonoF, 2stage")
       ->check(CLI::IsMember({"SIM_PRO", "DiaG", "MonoF", "2stage"}));
   befehl->add_option("--row", w->zeile, "Row of the measurement, from 1")
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Range(1, kZeilen_hoechstens).description(""));
   befehl->add_option("--options", w->optionen, "Project: JSON object with its further controls")
       ->type_name("FILE.json");
   anlage_anmelden(*befehl, *w);

@@ -16,7 +16,7 @@ struct Logph_Wuensche : Messwuensche {
   double dT_sh = leer, t_s = leer, dT_sc = leer, dT_liquid = leer;
   double p_int = leer, p_int2 = leer, p_m = leer, p_hoch = leer;
   double C = leer, dp_Fl = leer;
-  int zeile = 1;
+  int zeile = 0;  ///< 0: not given, the first one
   int ECO_OPT = -1, stufen = 0, Bauart = -1, Antrieb = -1;
   bool zweite_Auswahl = false, parallel = false;
 };

@@ -1,17 +1,9 @@
 #pragma once
 
 #include "cycle/logp_h.h"
+#include "cycle/saettigung.h"
 
 namespace polarkreis {
-
-/// Pressures of a blend's evaporator and condenser lie between the lines: what both lines hold at
-/// such a pressure.
-struct Saettigung {
-  double t_b = leer, t_d = leer;      ///< bubble and dew temperature, °C
-  double h_l = leer, h_v = leer;      ///< kJ/kg
-  double rho_l = leer, rho_v = leer;  ///< kg/m³
-};
-Saettigung Saettigung_bei(Kaeltemittel& km, double p);
 
 /// One calculation of the log p-h analysis: its steps in their order, and what one leaves for the
 /// next. Temperatures in °C, pressures in bar absolute, enthalpies in kJ/kg.

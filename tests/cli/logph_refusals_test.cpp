@@ -67,6 +67,49 @@ TEST(LogphRefusals, ValuesThatAreNone) {
   verweigert(daten, {"logph", "m.fmd", "--row", "two"}, 2, "--row");
 }
 
+TEST(LogphRefusals, NumbersThatNoPlantHas) {
+  const Messordner daten;
+  const Namen grund{"--t0", "-10", "--tc", "40"};
+  for (const char* option :
+       {"--superheat", "--subcooling", "--ihx", "--pipe", "--dp-liquid", "--p-high", "--p-int"}) {
+    Namen mehr = grund;
+    mehr.insert(mehr.end(), {option, "-5"});
+    verweigert(daten, stoff("R134A", mehr), 2, std::string(option) + ": must not be below 0");
+  }
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--t-suction", "-40"}), 1,
+             "would be colder than the evaporator");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--subcooling", "60"}), 1,
+             "The liquid in front of the expansion valve would be colder");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--dp-liquid", "20000"}), 1,
+             "The pressures give no cycle");
+  verweigert(daten, stoff("R744", {"--t0", "-10", "--pc", "90"}), 1, "give --tc and --p-high");
+  verweigert(daten, stoff("R744", {"--t0", "-10", "--tc", "35", "--ihx", "10"}), 1,
+             "ends above the table of R744");
+}
+
+TEST(LogphRefusals, OptionsThatWouldCountForNothing) {
+  const Messordner daten;
+  const Namen grund{"--t0", "-10", "--tc", "40"};
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--row", "2"}), 2,
+             "--row: is for");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--settings", "no.json"}), 2,
+             "--settings: is for a measurement");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--options", "no.json"}), 2,
+             "--options: is for a project");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--p-m", "4"}), 2,
+             "--p-m: is for --mode 2stage");
+  verweigert(daten, {"logph", kMarkt, "--p0", "2"}, 2, "--p0: is for");
+  verweigert(daten, {"logph", kMarkt, "--row", "2"}, 2, "--row: is for");
+  verweigert(daten, {"logph", "m.fmd", "--t0", "-10"}, 2, "--t0: is for");
+  verweigert(daten, {"logph", "m.fmd", "--tc", "40"}, 2, "--tc: is for");
+}
+
+TEST(LogphRefusals, ATargetThatIsNoPicture) {
+  const Messordner daten;
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "40", "--svg", kMarkt}), 2,
+             "--svg: give a file name that ends in .svg");
+}
+
 TEST(LogphRefusals, AnUnknownRefrigerantPointsToTheCatalogue) {
   const Messordner daten;
   verweigert(daten, stoff("R999", {"--t0", "-10", "--tc", "40"}), 1,
@@ -88,15 +131,17 @@ TEST(LogphRefusals, TemperaturesOutsideTheLimitsAreToldInTheProgramsWords) {
   verweigert(daten, stoff("R134A", {"--t0", "-10", "--tc", "86"}), 1, "tmax = 85 °C !");
   verweigert(daten, stoff("R134A", {"--t0", "40", "--tc", "-10"}), 1,
              "Condensing temperature is below the evaporating temperature.");
-  verweigert(daten, stoff("R134A", {"--p0", "0.01", "--tc", "40"}), 1, "tmin = -60 °C !");
-  verweigert(daten, stoff("R134A", {"--t0", "-10", "--pc", "60"}), 1, "tmax = 85 °C !");
+  verweigert(daten, stoff("R134A", {"--p0", "0.01", "--tc", "40"}), 1,
+             "The pressure 0.01 bar lies outside the table R134A.DAT");
+  verweigert(daten, stoff("R134A", {"--t0", "-10", "--pc", "60"}), 1,
+             "The pressure 60 bar lies outside the table R134A.DAT");
   verweigert(daten, {"logph", kMarkt, "--t0", "-80"}, 1, "tmin = -55 °C !");  // R448A
 }
 
 TEST(LogphRefusals, EqualTemperaturesGiveNoCycle) {
   const Datenkopie daten;
   verweigert(daten, stoff("R134A", {"--t0", "10", "--tc", "10"}), 1,
-             "The temperatures 10 °C and 10 °C give no cycle");
+             "The temperatures 10 and 10 °C give no cycle");
 }
 
 TEST(LogphRefusals, AnIntermediatePressureOutsideTheOtherTwo) {

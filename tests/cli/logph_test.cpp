@@ -246,7 +246,8 @@ TEST(Logph, ForPeopleShowsPointsFiguresAndBalances) {
   const Datenkopie daten;
   const Antwort a = daten.rufe(stoff("R407C", "-10", "40", {"--ihx", "5"}));
   ASSERT_EQ(a.status, 0) << a.fehler;
-  EXPECT_TRUE(a.ausgabe.starts_with("R407C / GWP =1774, single stage\nt0 = -10 °C, tc = 40 °C\n"))
+  EXPECT_TRUE(a.ausgabe.starts_with(
+      "R407C / GWP =1774, single stage\nt0 = -10 °C, tc = 40 °C, flows and powers for 10 kW"))
       << a.ausgabe;
   const Json j = figuren(daten, stoff("R407C", "-10", "40", {"--ihx", "5"}));
   for (const Json& figur : j["figures"])
@@ -255,6 +256,36 @@ TEST(Logph, ForPeopleShowsPointsFiguresAndBalances) {
   for (const Json& b : j["balances"])
     EXPECT_TRUE(hat(a.ausgabe, b["component"].get<std::string>())) << b;
   EXPECT_TRUE(hat(a.ausgabe, "p [bar a]") && hat(a.ausgabe, "t [°C]"));
+}
+
+TEST(Logph, FiguresThatNoPlantHasAreTold) {
+  const Datenkopie daten;
+  const auto hinweis = [&](const Namen& befehl) { return daten.rufe(befehl).fehler; };
+  EXPECT_EQ(hinweis(stoff("R134A", "-10", "40", {})), "");
+  EXPECT_TRUE(hat(hinweis(stoff("R404A", "-35", "40", {"--stages", "2", "--p-int", "4"})),
+                  "gives the high stage"));
+  EXPECT_TRUE(hat(hinweis(stoff("R134A", "-10", "40", {"--ihx", "25"})),
+                  "The internal heat exchanger warms the suction vapour to"));
+  EXPECT_TRUE(hat(hinweis(stoff("R134A", "-20", "40", {"--mode", "2stage", "--economiser", "1"})),
+                  "The economiser evaporates at"));
+  EXPECT_TRUE(hat(hinweis(stoff("R744", "-30", "45", {})), "the best one for this gas cooler is"));
+  EXPECT_FALSE(hat(hinweis(stoff("R744", "-30", "45", {"--p-high", "115"})), "the best one"));
+  EXPECT_TRUE(hat(hinweis(stoff("R717", "-60", "40", {})), "lie far from those it was fitted for"));
+}
+
+// What hangs on the temperatures of a project goes with them.
+TEST(Logph, AProjectAtAnotherPoint) {
+  const Datenkopie daten;
+  const Json wie = figuren(daten, {"logph", kMarkt});
+  const double t0 = wie["t0F"].get<double>();
+  const Json anders = figuren(daten, {"logph", kMarkt, "--t0", std::to_string(t0 - 10)});
+  EXPECT_NEAR(anders["result"]["t_s"].get<double>(), wie["result"]["t_s"].get<double>() - 10, 1e-4);
+  const std::string co2 = "CO2 supermarket.prj";
+  EXPECT_EQ(figuren(daten, {"logph", co2, "--tc", "20"})["arrangement"], "single stage");
+  const Json warm = figuren(daten, {"logph", co2, "--tc", "36"});
+  EXPECT_EQ(warm["arrangement"], "flash gas to the suction line");
+  EXPECT_GE(warm["result"]["pc"].get<double>(), 92);
+  EXPECT_LT(warm["result"]["pc"].get<double>(), 94);
 }
 
 TEST(Logph, UnitsAreTheSettings) {
