@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "shell/cp850.h"
 #include "shell/items.h"
 #include "shell/text.h"
 #include "shell/wert.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr std::string_view kJMapOpt = "JMapOpt.dat";
 constexpr std::string_view kSubAct = "SubAct.dat";
 constexpr std::string_view kArmstd = "Armstd.rdm";
-constexpr std::size_t kSatzlaenge = 5;
+constexpr int kArmstd_Nummer = 24, kSatzlaenge = 5;
 
 double zahl(const Druckdifferenzen& differenzen, std::size_t index) {
   const std::string& text = differenzen.werte[index];
@@ -24,13 +25,6 @@ std::string je_zeile(std::span<const std::string> werte) {
   std::string inhalt;
   for (const std::string& wert : werte) zeile_anhaengen(inhalt, {wert});
   return inhalt;
-}
-
-/// Record n of the start values; empty where the file is too short.
-std::string startwert(std::string_view saetze, std::size_t n) {
-  const std::size_t anfang = (n - 1) * kSatzlaenge;
-  if (anfang >= saetze.size()) return {};
-  return std::string(getrimmt(saetze.substr(anfang, kSatzlaenge)));
 }
 
 }  // namespace
@@ -80,10 +74,12 @@ bool SubAct_schreiben(Ablage& ablage, const Zusatzwerte& werte) {
 }
 
 Zusatzwerte SubAct_Startwerte(Ablage& ablage) {
-  constexpr std::array<std::size_t, 6> kSaetze{24, 25, 26, 33, 34, 35};
-  const std::string saetze = ablage.lies_ganz(kArmstd).value_or("");
+  constexpr std::array<int, 6> kSaetze{24, 25, 26, 33, 34, 35};
   Zusatzwerte zusatz;
-  for (std::size_t i = 0; i < kSaetze.size(); ++i) zusatz.werte[i] = startwert(saetze, kSaetze[i]);
+  ablage.Datei_Satz(kArmstd, kArmstd_Nummer, kSatzlaenge);
+  for (std::size_t i = 0; i < kSaetze.size(); ++i)
+    zusatz.werte[i] = getrimmt(aus_CP850(ablage.Satz_Lesen(kArmstd_Nummer, kSaetze[i])));
+  ablage.Datei_Schliessen(kArmstd_Nummer);
   return zusatz;
 }
 

@@ -115,3 +115,22 @@ TEST_F(Parameter, StartValuesThatEndEarlyLeaveTheRestEmpty) {
   EXPECT_EQ(z.werte[1], "2");
   EXPECT_EQ(z.werte[2], "");
 }
+
+// The records are bytes: what stands before them must not move them, however it reads as a text.
+TEST_F(Parameter, StartValuesKeepTheirPlacesBehindForeignBytes) {
+  write_start_values();
+  std::string records = folder.lies("Armstd.rdm");
+  records.replace(0, 5, "\x81\xE1\xFF\x94\x84");
+  records.replace(32 * 5, 5, "\xEF\xBB\xBF\xC3\xBC");
+  folder.schreib("Armstd.rdm", records);
+  const Zusatzwerte z = SubAct_Startwerte(ablage);
+  EXPECT_EQ(z.werte[0], ".24");
+  EXPECT_EQ(z.werte[2], ".26");
+  EXPECT_EQ(z.werte[4], ".34");
+  EXPECT_EQ(z.werte[5], ".35");
+}
+
+TEST_F(Parameter, StartValuesOfAMissingFileAreEmptyAndMakeNone) {
+  EXPECT_EQ(SubAct_Startwerte(ablage).werte, Zusatzwerte().werte);
+  EXPECT_FALSE(folder.da("Armstd.rdm"));
+}
