@@ -22,6 +22,8 @@ bool ist_Katalogcode(std::string_view code);
 /// File names of a catalogue.
 std::string Bauteildatei(std::string_view code);
 std::string Listendatei(std::string_view code);
+/// The list of the catalogues.
+inline constexpr std::string_view Katalogdatei = "katalg.lst";
 /// The index file of a search kind: "I650.DAT" for 0 and 100, "I600.DAT" for 1, else "I550.DAT".
 std::string_view Indexdatei(int Suchart);
 /// The type of a catalogue as its code tells: the last two letters EX 1, KP 2, VD 3, KD 4, MV 7;
@@ -51,11 +53,16 @@ class Katalogdateien {
   Ablage& ablage;
 
   using Felder = std::vector<std::string>;
-  /// The rows of a text file's content with so many fields each. Items count, not lines; but a line
-  /// that holds a whole row is one, so that a row that lost a field costs only itself.
-  std::vector<Felder> Feldzeilen(std::string_view name, std::string_view inhalt,
-                                 std::size_t felder);
-  /// "katalg.lst" in its order.
+  /// True for an item that a row can begin with.
+  using Zeilenbeginn = bool (*)(std::string_view item);
+  /// The rows of a text file's content with so many fields each. Items count, not lines: a line may
+  /// hold several rows, and a row go over several lines. But an unfinished row ends before a line
+  /// that could begin one and holds the fields of one, so that a row that lost a field costs only
+  /// itself.
+  std::vector<Felder> Feldzeilen(
+      std::string_view name, std::string_view inhalt, std::size_t felder,
+      Zeilenbeginn beginnt = [](std::string_view) { return true; });
+  /// "katalg.lst" in its order: each of its items that begins with a code.
   std::vector<Katalogzeile> Katalogliste();
   /// The index of a search kind in its order.
   std::vector<Indexzeile> Index(int Suchart);

@@ -197,7 +197,7 @@ TEST(CatalogueSearch, VerboseTellsWhatWasLeftOut) {
   daten.schreib("AXIALKDN.rdm", "cut off");
   const Antwort a = daten.rufe({"--verbose", "catalogue", "search", "x", "--kind", "2"});
   EXPECT_EQ(a.status, 0);
-  for (const char* teil : {"has 2 of 4 fields", "\"SHORT\" is no code of seven letters",
+  for (const char* teil : {"has 2 of 4 fields", "\"SHORT\" begins with no code of seven letters",
                            "\"0\" is no record to begin with", "no multiple of 570 bytes"})
     EXPECT_TRUE(hat(a.fehler, teil)) << teil << a.fehler;
 }

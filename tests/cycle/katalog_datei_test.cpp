@@ -81,16 +81,56 @@ TEST(Feldzeilen, ARowThatLostAFieldCostsOnlyItself) {
   EXPECT_TRUE(o.gemeldet("f.dat: the row that begins with \"z\" has 1 of 3 fields"));
 }
 
-TEST(Feldzeilen, AFieldTooManyIsLeftOut) {
+TEST(Feldzeilen, AFieldTooManyIsLeftOutAndTold) {
   Katalogordner o;
   EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\",\"b\",\"c\"\r\n\"d\",\"e\"\r\n", 2),
             (std::vector<Felder>{{"a", "b"}, {"d", "e"}}));
+  EXPECT_TRUE(o.gemeldet("f: the row that begins with \"c\" has 1 of 2 fields: left out"));
+}
+
+TEST(Feldzeilen, ACommaAtALinesEndAddsNothing) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "a,b,\r\nc\r\nd\r\n", 2),
+            (std::vector<Felder>{{"a", "b"}, {"c", "d"}}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Feldzeilen, ALineMayHoldSeveralRows) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "a,b,c,d\r\ne,f,g\r\nh\r\n", 2),
+            (std::vector<Felder>{{"a", "b"}, {"c", "d"}, {"e", "f"}, {"g", "h"}}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Feldzeilen, ALineThatCantBeginARowGoesOnWithTheOneBefore) {
+  Katalogordner o;
+  const auto beginnt = [](std::string_view item) { return item == "A" || item == "C"; };
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "A\nb,C\nd\n", 2, beginnt),
+            (std::vector<Felder>{{"A", "b"}, {"C", "d"}}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "A\nC,d\n", 2, beginnt), (std::vector<Felder>{{"C", "d"}}));
+  EXPECT_TRUE(o.gemeldet("\"A\" has 1 of 2 fields"));
+}
+
+TEST(Feldzeilen, AQuotedFieldMayHoldALineEnd) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\r\nb\" , \"c \"\"x\"\"\nd\"\r\n\"e\",\"f\"\r\n", 2),
+            (std::vector<Felder>{{"a\r\nb", "c \"x\"\nd"}, {"e", "f"}}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Feldzeilen, ALostQuoteCostsNoOtherRow) {
+  Katalogordner o;
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a\",\"b\r\n\"c\",\"d\"\r\n\"e\",\"f", 2),
+            (std::vector<Felder>{{"a", "b"}, {"c", "d"}, {"e", "f"}}));
+  EXPECT_EQ(o.dateien.Feldzeilen("f", "\"a,\"b\"\r\n\"\",\"d\"\r\n", 2),
+            (std::vector<Felder>{{"", "d"}}));
+  EXPECT_TRUE(o.gemeldet("has 1 of 2 fields"));
 }
 
 TEST(Katalogliste, TakesTheFirstSevenCharactersAsTheCode) {
   Katalogordner o;
-  o.schreib("katalg.lst",
-            "\"FIRNEVD  Luftkühler\"\r\n\"BOREALX\"\r\nSKADEKD Verflüssiger, Axial\r\n");
+  o.schreib("katalg.lst", "\"FIRNEVD  Luftkühler\"\r\n\"BOREALX\"\r\nSKADEKD Verflüssiger\r\n");
   const auto liste = o.dateien.Katalogliste();
   ASSERT_EQ(liste.size(), 3U);
   EXPECT_EQ(liste[0].code, "FIRNEVD");
@@ -101,12 +141,30 @@ TEST(Katalogliste, TakesTheFirstSevenCharactersAsTheCode) {
   EXPECT_TRUE(o.meldungen.zeilen().empty());
 }
 
+TEST(Katalogliste, ALineMayHoldSeveralCodes) {
+  Katalogordner o;
+  o.schreib("katalg.lst",
+            "\"FIRNEVD\",\"BOREALX Verdichter,\nhalbhermetisch\"\r\nSKADEKD, KAMMERX \r\n");
+  std::vector<std::string> codes;
+  for (const Katalogzeile& zeile : o.dateien.Katalogliste()) codes.push_back(zeile.code);
+  EXPECT_EQ(codes, (std::vector<std::string>{"FIRNEVD", "BOREALX", "SKADEKD", "KAMMERX"}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
+}
+
+TEST(Katalogliste, TextThatLostItsQuotesIsNoCode) {
+  Katalogordner o;
+  o.schreib("katalg.lst", "SKADEKD Verflüssiger, Axial, kompakte Bauform\r\n");
+  ASSERT_EQ(o.dateien.Katalogliste().size(), 1U);
+  EXPECT_TRUE(o.gemeldet("\"Axial\" begins with no code"));
+  EXPECT_TRUE(o.gemeldet("\"kompakte Bauform\" begins with no code"));
+}
+
 TEST(Katalogliste, WhatIsNoCodeIsLeftOutAndTold) {
   Katalogordner o;
   o.schreib("KATALG.LST", "\"SHORT\"\r\n\"../../x\"\r\n\r\n\"BOREALX\"\r\n");
   ASSERT_EQ(o.dateien.Katalogliste().size(), 1U);
-  EXPECT_TRUE(o.gemeldet("\"SHORT\" is no code of seven letters"));
-  EXPECT_TRUE(o.gemeldet("\"../../x\" is no code of seven letters"));
+  EXPECT_TRUE(o.gemeldet("\"SHORT\" begins with no code of seven letters"));
+  EXPECT_TRUE(o.gemeldet("\"../../x\" begins with no code of seven letters"));
   o.dateien.Katalogliste();
   EXPECT_EQ(o.meldungszahl("SHORT"), 1);
 }
@@ -135,6 +193,17 @@ TEST(Index, HasFourFieldsARow) {
   EXPECT_EQ(index[1].Anfang, 52);
   EXPECT_TRUE(o.dateien.Index(0).empty());
   EXPECT_TRUE(o.dateien.Index(2).empty());
+}
+
+TEST(Index, RowsMayBeBrokenAnywhere) {
+  Katalogordner o;
+  o.schreib("I550.DAT",
+            "\"SKADEKD\"\r\n\"M\",\"t\",\"2\",\"FIRNEVD\"\r\n\"N\",\"u\",\"52\"\r\n"
+            "\"BOREALX\",\"O\",\"v\",\"3\",\"BOREALX\",\"O\",\"w\",\"4\"\r\n");
+  std::vector<int> anfang;
+  for (const Indexzeile& zeile : o.dateien.Index(2)) anfang.push_back(zeile.Anfang);
+  EXPECT_EQ(anfang, (std::vector<int>{2, 52, 3, 4}));
+  EXPECT_TRUE(o.meldungen.zeilen().empty());
 }
 
 TEST(Index, RowsThatNameNoCatalogueAreLeftOutAndTold) {
