@@ -33,9 +33,11 @@ int Listenindex(int position, Slotweite weite = Slotweite::w66);
 std::string Mittelliste(std::string_view Bezeichnung);
 
 /// The refrigerant's list. A file with content is the list; else it is made of the compressor
-/// catalogue. No list, and no file, without a catalogue of type 0, without the texts of its lists,
-/// and for an unknown designation.
-std::vector<Mittelzeile> KM_Liste(Katalogdateien& dateien, std::string_view Bezeichnung);
+/// catalogue. No list, and no file, without a catalogue of type 0, where the texts of its lists are
+/// missing or can't be read, and for an unknown designation. `hindernis` takes why the list of a
+/// known refrigerant is empty.
+std::vector<Mittelzeile> KM_Liste(Katalogdateien& dateien, std::string_view Bezeichnung,
+                                  std::string* hindernis = nullptr);
 
 /// The components of a list, as far as an empty record or the next list.
 std::vector<Bauteil> Listenbauteile(Katalogdateien& dateien, const Mittelzeile& zeile);

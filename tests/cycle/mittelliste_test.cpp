@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
+
 #include "katalog_ordner.h"
 
 using namespace polarkreis;
@@ -148,7 +150,7 @@ TEST(KMListe, WithoutACatalogueOfType0IsNoneAndMakesNoFile) {
   o.schreib("katalg.lst", "\"FIRNEVD\"\r\n\"SKADEKD\"\r\n");
   EXPECT_TRUE(KM_Liste(o.dateien, "R134A").empty());
   EXPECT_FALSE(o.da("R134A.LST"));
-  EXPECT_TRUE(o.gemeldet("R134A.LST: not made: there is no catalogue of type 0"));
+  EXPECT_TRUE(o.gemeldet("R134A.LST: not made: katalg.lst names no catalogue of type 0"));
 }
 
 TEST(KMListe, WithoutItsTextsIsNoneAndMakesNoFile) {
@@ -160,6 +162,56 @@ TEST(KMListe, WithoutItsTextsIsNoneAndMakesNoFile) {
   EXPECT_TRUE(o.gemeldet("R134A.LST: not made: BOREALXI.rdm is missing"));
   o.schreib("SECONDXI.rdm", Mittelordner::texte(18));
   EXPECT_TRUE(KM_Liste(o.dateien, "R134A").empty());
+}
+
+TEST(KMListe, WhoseTextsCantBeReadIsNoneAndMakesNoFile) {
+  Mittelordner o;
+  // More than the file store reads: the system keeps a gap, not the bytes.
+  std::filesystem::resize_file(o.pfad("BOREALXI.rdm"), (std::uintmax_t{1} << 30) + 128);
+  std::string hindernis;
+  EXPECT_TRUE(KM_Liste(o.dateien, "R134A", &hindernis).empty());
+  EXPECT_FALSE(o.da("R134A.LST"));
+  EXPECT_EQ(hindernis, "BOREALXI.rdm can't be read");
+  EXPECT_TRUE(o.gemeldet("R134A.LST: not made: BOREALXI.rdm can't be read"));
+}
+
+TEST(KMListe, AFileOfWhiteSpaceIsFilled) {
+  Mittelordner o;
+  o.schreib("R134A.LST", " \r\n\t\n");
+  EXPECT_EQ(KM_Liste(o.dateien, "R134A").size(), 18U);
+  EXPECT_EQ(o.lies("R134A.LST"), erwartet());
+}
+
+TEST(KMListe, RowsMayBeBrokenAnywhere) {
+  Mittelordner o;
+  o.schreib("R134A.LST",
+            "\"OTHERXXN.rdm\"\r\n\"two\r\nlines\",\"5\",\"BOREALXN.rdm\"\r\n\"b\",\"6\"\r\n");
+  const auto liste = KM_Liste(o.dateien, "R134A");
+  ASSERT_EQ(liste.size(), 2U);
+  EXPECT_EQ(liste[0].Text, "two\r\nlines");
+  EXPECT_EQ(liste[1].Datei, "BOREALXN.rdm");
+  EXPECT_EQ(liste[1].Anfang, 6);
+}
+
+TEST(KMListe, TellsWhatStandsInTheWay) {
+  const auto hindernis = [](Mittelordner& o) {
+    std::string text = "unset";
+    KM_Liste(o.dateien, "R134A", &text);
+    return text;
+  };
+  Mittelordner o;
+  EXPECT_EQ(hindernis(o), "");
+  o.schreib("R134A.LST", "\"OTHERXXN.rdm\",\"mine\"\r\n");
+  EXPECT_EQ(hindernis(o), "R134A.LST holds no whole row (delete it, and it is made anew)");
+  o.schreib("R134A.LST", "");
+  o.schreib("BOREALXI.rdm", "");
+  EXPECT_EQ(hindernis(o), "BOREALXI.rdm is missing");
+  o.schreib("katalg.lst", "\"FIRNEVD\"\r\n");
+  EXPECT_EQ(hindernis(o), "katalg.lst names no catalogue of type 0");
+  o.schreib("katalg.lst", "\r\n\"?\"\r\n");
+  EXPECT_EQ(hindernis(o), "katalg.lst names no catalogue");
+  o.schreib("katalg.lst", "");
+  EXPECT_EQ(hindernis(o), "katalg.lst is missing");
 }
 
 TEST(KMListe, WithoutAnyCatalogueIsNone) {
