@@ -71,8 +71,10 @@ Katalogdateien::Felder items(std::string_view zeile) {
   return felder;
 }
 
-bool beginnt_mit_Code(std::string_view item) {
-  return ist_Katalogcode(getrimmt(item));
+enum Indexfeld : std::size_t { I_Code, I_Hersteller, I_Katalogtext, I_Anfang, Indexfelder };
+
+bool beginnt_Indexzeile(const Katalogdateien::Felder& zeile) {
+  return ist_Katalogcode(getrimmt(zeile[I_Code])) || endet_mit_Zahl(zeile, Indexfelder);
 }
 
 bool alle_leer(const Katalogdateien::Felder& felder) {
@@ -92,8 +94,6 @@ std::string_view Code_in(std::string_view item, bool erstes) {
 std::string zitat(std::string_view text) {
   return "\"" + std::string(erste_zeichen(text, kZitat_hoechstens)) + "\"";
 }
-
-enum Indexfeld : std::size_t { I_Code, I_Hersteller, I_Katalogtext, I_Anfang, Indexfelder };
 
 }  // namespace
 
@@ -131,6 +131,12 @@ int Typ_aus_Code(std::string_view code) {
   return grosser.starts_with(kErste_zwei.buchstaben) ? kErste_zwei.typ : 0;
 }
 
+bool endet_mit_Zahl(const Katalogdateien::Felder& items, std::size_t n) {
+  if (n == 0 || n > items.size()) return false;
+  const std::string_view text = getrimmt(items[n - 1]);
+  return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
 int Satznummer(std::string_view text) {
   const double nummer = Int(Wert(text));
   return nummer >= 1 && nummer <= kSatz_hoechstens ? static_cast<int>(nummer) : 0;
@@ -161,7 +167,7 @@ std::vector<Katalogdateien::Felder> Katalogdateien::Feldzeilen(std::string_view 
   while (!inhalt.empty()) {
     Felder neue = items(naechste_zeile(inhalt));
     const bool ganze = neue.size() >= felder;
-    if (ganze && beginnt(neue.front())) verwerfen();
+    if (ganze && beginnt(neue)) verwerfen();
     for (std::string& item : neue) {
       offen.push_back(std::move(item));
       if (offen.size() == felder) alle.push_back(std::exchange(offen, {}));
@@ -193,7 +199,7 @@ std::vector<Indexzeile> Katalogdateien::Index(int Suchart) {
   const std::string_view name = Indexdatei(Suchart);
   const std::string inhalt = ablage.lies_ganz(name).value_or("");
   std::vector<Indexzeile> alle;
-  for (const Felder& zeile : Feldzeilen(name, inhalt, Indexfelder, beginnt_mit_Code)) {
+  for (const Felder& zeile : Feldzeilen(name, inhalt, Indexfelder, beginnt_Indexzeile)) {
     const std::string code(getrimmt(zeile[I_Code]));
     if (!ist_Katalogcode(code)) {
       melde(name, zitat(code) + " is no code of seven letters: left out");

@@ -53,15 +53,15 @@ class Katalogdateien {
   Ablage& ablage;
 
   using Felder = std::vector<std::string>;
-  /// True for an item that a row can begin with.
-  using Zeilenbeginn = bool (*)(std::string_view item);
+  /// True for a line's items, a row's number of them at least, that begin with a row.
+  using Zeilenbeginn = bool (*)(const Felder& items);
   /// The rows of a text file's content with so many fields each. Items count, not lines: a line may
   /// hold several rows, and a row go over several lines. But an unfinished row ends before a line
-  /// that could begin one and holds the fields of one, so that a row that lost a field costs only
-  /// itself.
+  /// that holds the fields of one and looks like its beginning, so that a row that lost a field
+  /// costs only itself.
   std::vector<Felder> Feldzeilen(
       std::string_view name, std::string_view inhalt, std::size_t felder,
-      Zeilenbeginn beginnt = [](std::string_view) { return true; });
+      Zeilenbeginn beginnt = [](const Felder&) { return true; });
   /// "katalg.lst" in its order: each of its items that begins with a code.
   std::vector<Katalogzeile> Katalogliste();
   /// The index of a search kind in its order.
@@ -73,6 +73,9 @@ class Katalogdateien {
  private:
   std::set<std::string> gemeldet_;
 };
+
+/// True for items of a line that begin with a row whose last field, the n-th item, is a number.
+bool endet_mit_Zahl(const Katalogdateien::Felder& items, std::size_t n);
 
 /// A record number, 1 or above; 0 for any other text.
 int Satznummer(std::string_view text);

@@ -90,12 +90,16 @@ std::string Inhalt(Katalogdateien& dateien, const std::string& datei, std::strin
   return leer ? bauen(dateien, datei, hindernis) : *std::move(inhalt);
 }
 
-bool beginnt_mit_Datei(std::string_view item) {
+bool ist_Bauteildatei(std::string_view item) {
   const std::string_view name = getrimmt(item), code = name.substr(0, Codelaenge);
   return ist_Katalogcode(code) && gleich(name, Bauteildatei(code));
 }
 
 enum Listenfeld : std::size_t { L_Datei, L_Text, L_Anfang, Listenfelder };
+
+bool beginnt_Zeile(const Katalogdateien::Felder& items) {
+  return ist_Bauteildatei(items[L_Datei]) || endet_mit_Zahl(items, Listenfelder);
+}
 
 }  // namespace
 
@@ -119,7 +123,7 @@ std::vector<Mittelzeile> KM_Liste(Katalogdateien& dateien, std::string_view Beze
   if (datei.empty()) return liste;
   const std::string inhalt = Inhalt(dateien, datei, warum);
   for (Katalogdateien::Felder& zeile :
-       dateien.Feldzeilen(datei, inhalt, Listenfelder, beginnt_mit_Datei))
+       dateien.Feldzeilen(datei, inhalt, Listenfelder, beginnt_Zeile))
     liste.push_back(
         {std::move(zeile[L_Datei]), std::move(zeile[L_Text]), Satznummer(zeile[L_Anfang])});
   if (liste.empty() && warum.empty())
@@ -129,7 +133,7 @@ std::vector<Mittelzeile> KM_Liste(Katalogdateien& dateien, std::string_view Beze
 }
 
 std::vector<Bauteil> Listenbauteile(Katalogdateien& dateien, const Mittelzeile& zeile) {
-  if (!beginnt_mit_Datei(zeile.Datei)) return {};
+  if (!ist_Bauteildatei(zeile.Datei)) return {};
   const std::string_view code = getrimmt(zeile.Datei).substr(0, Codelaenge);
   return Bauteile(dateien, code).suche(zeile.Anfang, Listenblock, Suchmuster({}));
 }

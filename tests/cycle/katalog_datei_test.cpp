@@ -104,7 +104,7 @@ TEST(Feldzeilen, ALineMayHoldSeveralRows) {
 
 TEST(Feldzeilen, ALineThatCantBeginARowGoesOnWithTheOneBefore) {
   Katalogordner o;
-  const auto beginnt = [](std::string_view item) { return item == "A" || item == "C"; };
+  const auto beginnt = [](const Felder& zeile) { return zeile[0] == "A" || zeile[0] == "C"; };
   EXPECT_EQ(o.dateien.Feldzeilen("f", "A\nb,C\nd\n", 2, beginnt),
             (std::vector<Felder>{{"A", "b"}, {"C", "d"}}));
   EXPECT_TRUE(o.meldungen.zeilen().empty());
@@ -214,6 +214,18 @@ TEST(Index, RowsThatNameNoCatalogueAreLeftOutAndTold) {
   EXPECT_EQ(o.dateien.Index(2).size(), 1U);
   EXPECT_TRUE(o.gemeldet("I550.DAT: \"TOOLONGX\" is no code of seven letters"));
   EXPECT_TRUE(o.gemeldet("I550.DAT: the row that begins with \"SKADEKD\" has 2 of 4 fields"));
+}
+
+TEST(Index, AWrongCodeBehindATornRowCostsNoOtherRow) {
+  Katalogordner o;
+  o.schreib("I550.DAT",
+            "\"FIRNEVD\",\"M\"\r\n\"SHORT\",\"M\",\"t\",\"2\"\r\n"
+            "\"SKADEKD\",\"M\",\"t\",\"2\"\r\n");
+  const auto index = o.dateien.Index(2);
+  ASSERT_EQ(index.size(), 1U);
+  EXPECT_EQ(index[0].code, "SKADEKD");
+  EXPECT_TRUE(o.gemeldet("\"FIRNEVD\" has 2 of 4 fields"));
+  EXPECT_TRUE(o.gemeldet("\"SHORT\" is no code"));
 }
 
 TEST(Index, OfAnotherKindOfFileDoesntFloodTheMessageLog) {
