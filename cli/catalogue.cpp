@@ -1,11 +1,14 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 
 #include "ausgabe.h"
 #include "bauteiltabelle.h"
 #include "katalog_json.h"
+#include "konsole.h"
+#include "shell/text.h"
 #include "sitzung.h"
 #include "zahlen.h"
 
@@ -21,10 +24,6 @@ struct Wuensche {
   int art = 0, liste = 0;
   bool eine_art = false, json = false;
 };
-
-constexpr const char* kKeine_Listen =
-    "There are no lists: the data folder has no catalogue of type 0 with the texts of its lists. "
-    "See docs/catalogue.md.";
 
 /// "1 component", "3 components".
 std::string anzahl(std::size_t n, const std::string& was) {
@@ -116,6 +115,19 @@ std::vector<Fund> funde(const std::vector<KompSuch>& suchen) {
   return alle;
 }
 
+/// The components' files that a search found missing or could not read, each once.
+std::string fehlende(const std::vector<KompSuch>& suchen) {
+  std::vector<std::string> dateien;
+  for (const KompSuch& suche : suchen)
+    for (const KompSuch::Ergebnis& e : suche.Ergebnisse)
+      if (const std::string datei = Bauteildatei(e.zeile.code);
+          e.fehlt && std::ranges::find(dateien, datei) == dateien.end())
+        dateien.push_back(datei);
+  std::string text;
+  for (const std::string& datei : dateien) text += (text.empty() ? "" : ", ") + datei;
+  return text;
+}
+
 void suche_tabelle(const std::vector<KompSuch>& suchen, const std::string& text) {
   std::size_t treffer = 0, kataloge = 0, verborgen = 0;
   for (const KompSuch& suche : suchen) {
@@ -134,6 +146,8 @@ void suche_tabelle(const std::vector<KompSuch>& suchen, const std::string& text)
     drucke(Tabelle{{}, {{"No component with \"" + text + "\"" + wo}}});
   else
     drucke_zeile(anzahl(treffer, "component") + wo);
+  if (const std::string dateien = fehlende(suchen); !dateien.empty())
+    drucke_zeile("Missing, or not to be read: " + dateien + ".");
   if (verborgen > 0) drucke_zeile("Hidden by Prodhide.dat: " + anzahl(verborgen, "row") + ".");
 }
 
@@ -161,16 +175,27 @@ void liste_zeigen(const std::vector<Mittelzeile>& liste) {
   drucke(tabelle);
 }
 
+void liste_json(int position, const Mittelzeile& zeile, const std::vector<Bauteil>& bauteile) {
+  drucke(Json{{"list", position},
+              {"file", zeile.Datei},
+              {"text", zeile.Text},
+              {"components", bauteile_json(bauteile)}});
+}
+
 void bauteile_zeigen(Katalogdateien& dateien, const Mittelzeile& zeile, const Wuensche& w) {
   const std::vector<Bauteil> bauteile = Listenbauteile(dateien, zeile);
-  if (w.json)
-    return drucke(Json{{"list", w.liste},
-                       {"file", zeile.Datei},
-                       {"text", zeile.Text},
-                       {"components", bauteile_json(bauteile)}});
+  if (w.json) return liste_json(w.liste, zeile, bauteile);
   drucke(Tabelle{{}, {{zeile.Text}}});
   drucke(bauteile);
   if (bauteile.empty()) drucke_zeile("The list holds no components.");
+}
+
+void keine_listen(const std::string& hindernis, const Wuensche& w) {
+  const std::string text = "The data folder has no lists for " + gross(getrimmt(w.stoff)) + ": " +
+                           hindernis + ". See docs/catalogue.md.";
+  if (!w.json) return drucke_zeile(text);
+  melde(text);
+  w.liste > 0 ? liste_json(w.liste, {}, {}) : drucke(Json::array());
 }
 
 void mittel(Sitzung& sitzung, const Wuensche& w) {
@@ -179,14 +204,13 @@ void mittel(Sitzung& sitzung, const Wuensche& w) {
     throw Abbruch(w.stoff + " " + p.captions.text(Caption::Unbekannt) +
                   "\r\nSee \"polarkreis-cli refrigerants\" for the designations.");
   Katalogdateien dateien(p.ablage);
-  const std::vector<Mittelzeile> liste = KM_Liste(dateien, w.stoff);
+  std::string hindernis;
+  const std::vector<Mittelzeile> liste = KM_Liste(dateien, w.stoff, &hindernis);
   const auto position = static_cast<std::size_t>(w.liste);
-  if (w.json && (position == 0 || liste.empty()))
-    drucke(mittelliste_json(liste));
-  else if (liste.empty())
-    drucke_zeile(kKeine_Listen);
+  if (liste.empty())
+    keine_listen(hindernis, w);
   else if (position == 0)
-    liste_zeigen(liste);
+    w.json ? drucke(mittelliste_json(liste)) : liste_zeigen(liste);
   else if (position > liste.size())
     throw Abbruch("There is no list " + std::to_string(position) + ": " + Mittelliste(w.stoff) +
                   " holds " + anzahl(liste.size(), "list") + ".");
@@ -243,7 +267,7 @@ void catalogue_anmelden(CLI::App& app, Sitzung& sitzung) {
   befehl->add_option("R", w->stoff, "Refrigerant, as R134A")->required();
   befehl->add_option("--list", w->liste, "Print the components of this list")
       ->type_name("N")
-      ->check(CLI::Range(1, Listenzahl).description(""));
+      ->check(CLI::Range(1, std::numeric_limits<int>::max()).description(""));
   beispiel(*befehl, "  polarkreis-cli catalogue refrigerant R290 --list 14");
 }
 

@@ -37,6 +37,7 @@ Json ergebnisse_json(const KompSuch& suche) {
                     {"catalogue", e.zeile.Katalogtext},
                     {"start", e.zeile.Anfang},
                     {"hidden", e.verborgen},
+                    {"missing", e.fehlt},
                     {"found", !e.Treffer.empty()}});
   return alle;
 }

@@ -49,6 +49,14 @@ Bauteile::~Bauteile() {
   if (anzahl_ > 0) dateien_.ablage.Datei_Schliessen(nummer_);
 }
 
+// A catalogue shows soon that it was read; only one that begins with nothing is asked for its file.
+bool Bauteile::lesbar() const {
+  for (int n = 1; n <= std::min(anzahl_, kTypsatz); ++n)
+    if (dateien_.ablage.Satz_Lesen(nummer_, n).find_first_not_of(kLeerstellen) != std::string::npos)
+      return true;
+  return anzahl_ > 0 && dateien_.ablage.lies_ganz(datei_).has_value();
+}
+
 int Bauteile::Typ() {
   const int typ = Typ_aus_Code(code_);
   if (anzahl_ == 0) return typ;

@@ -29,6 +29,8 @@ class Bauteile {
   Bauteile(const Bauteile&) = delete;
   Bauteile& operator=(const Bauteile&) = delete;
 
+  /// True if the file is there and could be read.
+  bool lesbar() const;
   /// The digit that record 51 begins with. Where a blank stands there, the type is the code's and
   /// is written back when the object goes; a file that is absent or read-only stays as it is.
   int Typ();

@@ -77,6 +77,7 @@ void KompSuch::Suchen() {
     ergebnis.verborgen = ist_verborgen(produkte, zeile.code);
     if (!ergebnis.verborgen) {
       Bauteile& bauteile = offene.hol(zeile.code);
+      ergebnis.fehlt = !bauteile.lesbar();
       ergebnis.Typ = bauteile.Typ();
       ergebnis.Treffer = bauteile.suche(zeile.Anfang, Satzzahl, muster);
     }

@@ -35,6 +35,7 @@ class KompSuch {
   struct Ergebnis {
     Indexzeile zeile;
     bool verborgen = false;  ///< a hidden product: not scanned, not found
+    bool fehlt = false;      ///< its components' file is missing or can't be read
     std::optional<int> Typ;  ///< of a catalogue that was scanned
     std::vector<Bauteil> Treffer;
   };

@@ -178,10 +178,12 @@ TEST(CatalogueSearch, WithoutCataloguesSaysSoAndMakesNoFile) {
         {"catalogue", "refrigerant", "R134A", "--list", "2"}}) {
     const Antwort a = daten.rufe(argumente);
     EXPECT_EQ(a.status, 0);
-    EXPECT_TRUE(hat(a.ausgabe, "The data folder ") || hat(a.ausgabe, "the data folder "))
-        << a.ausgabe;
+    EXPECT_TRUE(hat(a.ausgabe, "The data folder ")) << a.ausgabe;
     EXPECT_TRUE(a.fehler.empty()) << a.fehler;
   }
+  EXPECT_EQ(daten.rufe({"catalogue", "refrigerant", "R134A"}).ausgabe,
+            "The data folder has no lists for R134A: katalg.lst is missing. See "
+            "docs/catalogue.md.\n");
   EXPECT_EQ(daten.rufe({"catalogue", "search", "x", "--json"}).json(),
             json::parse(R"({"catalogues":[],"hits":[]})"));
   EXPECT_EQ(daten.rufe({"catalogue", "lists", "--json"}).json()["catalogues"], json::array());
@@ -197,9 +199,23 @@ TEST(CatalogueSearch, VerboseTellsWhatWasLeftOut) {
   daten.schreib("AXIALKDN.rdm", "cut off");
   const Antwort a = daten.rufe({"--verbose", "catalogue", "search", "x", "--kind", "2"});
   EXPECT_EQ(a.status, 0);
-  for (const char* teil : {"has 2 of 4 fields", "\"SHORT\" begins with no code of seven letters",
+  for (const char* teil : {"has 2 of 4 fields", "\"SHORT\" is no code of seven letters",
                            "\"0\" is no record to begin with", "no multiple of 570 bytes"})
     EXPECT_TRUE(hat(a.fehler, teil)) << teil << a.fehler;
+}
+
+TEST(CatalogueSearch, NamesTheFilesThatAreMissing) {
+  const Datenkopie daten;
+  EXPECT_FALSE(hat(daten.rufe({"catalogue", "search", "no such thing"}).ausgabe, "Missing"));
+  std::filesystem::remove(daten.pfad("VERDICHN.rdm"));
+  std::filesystem::remove(daten.pfad("AXIALKDN.rdm"));
+  const Antwort a = daten.rufe({"catalogue", "search", "BHK"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_TRUE(hat(a.ausgabe, "Missing, or not to be read: VERDICHN.rdm, AXIALKDN.rdm.\n"))
+      << a.ausgabe;
+  for (const json& zeile :
+       daten.rufe({"catalogue", "search", "BHK", "--json"}).json()["catalogues"])
+    EXPECT_EQ(zeile["missing"], zeile["code"] != "LUFTKVD");
 }
 
 TEST(CatalogueSearch, NeedsATextAndANumberAsKind) {
@@ -263,6 +279,39 @@ TEST(CatalogueRefrigerant, AnEmptyListSaysSo) {
   EXPECT_TRUE(hat(b.fehler, "R22.LST holds 1 list.")) << b.fehler;
 }
 
+TEST(CatalogueRefrigerant, AListIsOneObjectEvenWithoutLists) {
+  const Ohne_Kataloge daten;
+  const Antwort a = daten.rufe({"catalogue", "refrigerant", "R22", "--list", "3", "--json"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_EQ(a.json(), json::parse(R"({"list":3,"file":"","text":"","components":[]})"));
+  EXPECT_TRUE(hat(a.fehler, "no lists for R22: katalg.lst is missing")) << a.fehler;
+}
+
+TEST(CatalogueRefrigerant, TellsWhyThereAreNoLists) {
+  const Datenkopie daten;
+  daten.schreib("R22.LST", "\"VERDICHN.rdm\",\"torn\"\r\n");
+  const Antwort a = daten.rufe({"catalogue", "refrigerant", "r22"});
+  EXPECT_TRUE(hat(a.ausgabe, "R22.LST holds no whole row")) << a.ausgabe;
+  daten.schreib("VERDICHI.rdm", "");
+  const Antwort b = daten.rufe({"catalogue", "refrigerant", "R290"});
+  EXPECT_TRUE(hat(b.ausgabe, "VERDICHI.rdm is missing")) << b.ausgabe;
+}
+
+TEST(CatalogueRefrigerant, AnEditedListMayBeLonger) {
+  const Datenkopie daten;
+  std::string datei;
+  for (int n = 1; n <= 20; ++n)
+    datei += "\"VERDICHN.rdm\",\"list " + std::to_string(n) + "\",\"2\"\r\n";
+  daten.schreib("R22.LST", datei);
+  const Antwort a = daten.rufe({"catalogue", "refrigerant", "R22", "--list", "20", "--json"});
+  ASSERT_EQ(a.status, 0) << a.fehler;
+  EXPECT_EQ(a.json()["text"], "list 20");
+  EXPECT_FALSE(a.json()["components"].empty());
+  const Antwort b = daten.rufe({"catalogue", "refrigerant", "R22", "--list", "21"});
+  EXPECT_EQ(b.status, 1);
+  EXPECT_TRUE(hat(b.fehler, "R22.LST holds 20 lists.")) << b.fehler;
+}
+
 TEST(CatalogueRefrigerant, AnUnknownOneIsRefused) {
   const Datenkopie daten;
   const auto vorher = daten.inhalt();
@@ -272,7 +321,7 @@ TEST(CatalogueRefrigerant, AnUnknownOneIsRefused) {
     EXPECT_TRUE(hat(a.fehler, "is not a known refrigerant")) << a.fehler;
     EXPECT_TRUE(a.ausgabe.empty());
   }
-  for (const char* n : {"0", "19", "x"})
+  for (const char* n : {"0", "-1", "x"})
     EXPECT_EQ(daten.rufe({"catalogue", "refrigerant", "R22", "--list", n}).status, 2) << n;
   EXPECT_EQ(daten.inhalt(), vorher);
 }

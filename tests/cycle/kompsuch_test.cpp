@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "katalog_ordner.h"
 
 using namespace polarkreis;
@@ -52,12 +54,28 @@ TEST(KompSuch, SearchesTheIndexOfItsKind) {
   EXPECT_EQ(o.modelle(77, "10"), Texte{"V 10"});
 }
 
+TEST(KompSuch, KnowsCataloguesWhoseFileIsMissingOrCantBeRead) {
+  Suchordner o;
+  std::filesystem::remove(o.pfad("OTHERXXN.rdm"));
+  std::filesystem::resize_file(o.pfad("SKADEKDN.rdm"), (std::uintmax_t{1} << 30) + 570);
+  o.modelle(0, "10");
+  ASSERT_EQ(o.suche.Ergebnisse.size(), 3U);
+  EXPECT_FALSE(o.suche.Ergebnisse[0].fehlt);
+  EXPECT_FALSE(o.suche.Ergebnisse[1].fehlt);
+  EXPECT_TRUE(o.suche.Ergebnisse[2].fehlt);
+  EXPECT_EQ(o.modelle(2, ""), Texte{});
+  EXPECT_TRUE(o.suche.Ergebnisse.at(0).fehlt);
+  o.schreib("SKADEKDN.rdm", std::string(570, ' '));
+  EXPECT_EQ(o.modelle(2, ""), Texte{});
+  EXPECT_FALSE(o.suche.Ergebnisse.at(0).fehlt) << "a catalogue of blanks is there";
+}
+
 TEST(KompSuch, AHitCarriesItsCatalogue) {
   Suchordner o;
   EXPECT_EQ(o.modelle(0, "kältebau"), Texte{"KB 10"});
   EXPECT_EQ(o.suche.Trefferzahl(), 1U);
   ASSERT_EQ(o.suche.Ergebnisse.size(), 3U);
-  const auto& [zeile, verborgen, typ, treffer] = o.suche.Ergebnisse[1];
+  const auto& [zeile, verborgen, fehlt, typ, treffer] = o.suche.Ergebnisse[1];
   EXPECT_EQ(zeile.code, "BOREALX");
   EXPECT_EQ(zeile.Hersteller, "Kältebau");
   EXPECT_EQ(zeile.Katalogtext, "R404A");
