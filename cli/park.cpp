@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "ausgabe.h"
+#include "konsole.h"
 #include "projektwahl.h"
 #include "shell/items.h"
 #include "shell/platte.h"
@@ -39,9 +40,8 @@ bool derselbe(const Ablage& ablage, const std::string& pfad) {
   return std::filesystem::equivalent(ablage.pfad(pfad), ablage.pfad(kParkdatei), fehler);
 }
 
-void umbenennen(Ablage& ablage, std::string_view von, std::string_view nach) {
-  if (!Datei_umbenennen(ablage, von, nach))
-    throw Abbruch(grund(ablage, "The compressor park could not be moved."));
+[[noreturn]] void nicht_bewegt(const Ablage& ablage) {
+  throw Abbruch(grund(ablage, "The compressor park could not be moved."));
 }
 
 }  // namespace
@@ -70,7 +70,9 @@ void park_open(Sitzung& sitzung, const std::string& name) {
   Ablage& ablage = sitzung.programm().ablage;
   const std::string pfad = projektpfad(sitzung, name);
   park_lesen(ablage, pfad, name);
-  if (!derselbe(ablage, pfad)) umbenennen(ablage, pfad, kParkdatei);
+  std::string beiseite;
+  if (!derselbe(ablage, pfad) && !park_uebernehmen(ablage, pfad, beiseite)) nicht_bewegt(ablage);
+  park_beiseite_melden(beiseite);
   std::printf("Opened: %s is the compressor park (VerDpark.dat) now.\n", name.c_str());
 }
 
@@ -82,8 +84,13 @@ void park_save(Sitzung& sitzung, const std::string& name) {
   const std::string ziel = zielpfad(name);
   if (gleich(ziel.substr(Ordner_von(ziel).size()), kParkendung))
     throw Abbruch("\"" + name + "\" names no file. Give the park a name.");
-  if (!derselbe(ablage, ziel)) umbenennen(ablage, kParkdatei, ziel);
+  if (!derselbe(ablage, ziel) && !Datei_umbenennen(ablage, kParkdatei, ziel)) nicht_bewegt(ablage);
   std::printf("Saved: %s\n", ziel.c_str());
+}
+
+void park_beiseite_melden(const std::string& name) {
+  if (!name.empty())
+    melde("The compressor park that was open is kept in the data folder as \"" + name + "\".");
 }
 
 std::vector<std::string> parks(const Ablage& ablage, const std::string& ordner) {

@@ -81,6 +81,7 @@ void modul_oeffnen(Sitzung& sitzung, const std::string& pfad, const std::string&
     sitzung.fehler("The project was not opened.");
     return;
   }
+  park_beiseite_melden(browser.Park_beiseite);
   std::printf("Opened: %s (%s)\n", pfad.c_str(),
               last.empty() ? "its compressor park is VerDpark.dat of the data folder now"
                            : std::string(last).append(" of the data folder").c_str());

@@ -45,6 +45,28 @@ bool kopieren(Ablage& ablage, std::string_view von, std::string_view nach) {
   return platte::lies(ablage.pfad(von), bytes) == 0 && ablage.schreib_ganz(nach, bytes);
 }
 
+/// A name that no other file has, for the park that makes room: its ending lets it be opened again.
+std::string freier_Parkname(const Ablage& ablage) {
+  const std::string stamm = "VerDpark kept";
+  std::string name = stamm + ".VDD";
+  for (int n = 2; ablage.stand(name).da; ++n) name = stamm + " " + std::to_string(n) + ".VDD";
+  return name;
+}
+
+/// Keeps the park beside where it holds another content than the one that takes its place; false,
+/// and nothing changed, if it can't be kept.
+bool park_beiseite(Ablage& ablage, std::string_view neuer, std::string& name) {
+  if (!ablage.vorhanden(Parkdatei)) return true;
+  std::string alt, neu;
+  if (platte::lies(ablage.pfad(neuer), neu) != 0) return false;
+  if (platte::lies(ablage.pfad(Parkdatei), alt) == 0 && alt == neu) return true;
+  const std::string ziel = freier_Parkname(ablage);
+  if (!kopieren(ablage, Parkdatei, ziel)) return false;
+  ablage.meldungen().melde("park_laden", Parkdatei, "the park before is kept as \"" + ziel + "\"");
+  name = ziel;
+  return true;
+}
+
 using Parkweg = bool (*)(Ablage&, std::string_view tag, std::string_view projektdatei);
 
 /// Stores the form under its file name, and its park by `park`.
@@ -108,6 +130,7 @@ bool ProjLaden::oeffnen_bestaetigen() {
     FehlerBOX(dialog_, Fehler::Datei_fehlt);
     return false;
   }
+  Park_beiseite.clear();
   if (!Lastdatei(tag_).empty()) {
     if (Lastprojekt_ohne_Zeilen(ablage_, projektdatei())) {
       dialog_.zeige(captions_.text(Caption::Datei_beschaedigt), Titel, Symbol::fehler);
@@ -115,7 +138,7 @@ bool ProjLaden::oeffnen_bestaetigen() {
     }
     return gelungen(Lastprojekt_Oeffnen(ablage_, projektdatei()));
   }
-  return gelungen(park_laden(ablage_, tag_, projektdatei()));
+  return gelungen(park_laden(ablage_, tag_, projektdatei(), Park_beiseite));
 }
 
 bool ProjLaden::speichern_bestaetigen() {
@@ -171,10 +194,15 @@ bool park_kopieren(Ablage& ablage, std::string_view tag, std::string_view projek
   return kopieren(ablage, Parkdatei, parkdatei_von(projektdatei));
 }
 
-bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei) {
+bool park_uebernehmen(Ablage& ablage, std::string_view park, std::string& beiseite) {
+  return park_beiseite(ablage, park, beiseite) && Datei_umbenennen(ablage, park, Parkdatei);
+}
+
+bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei,
+                std::string& beiseite) {
   if (!Modul_mit_Park(tag)) return true;
   const std::string park = parkdatei_von(projektdatei);
-  if (ablage.vorhanden(park)) return Datei_umbenennen(ablage, park, Parkdatei);
+  if (ablage.vorhanden(park)) return park_uebernehmen(ablage, park, beiseite);
   ablage.meldungen().melde("park_laden", park, "missing: the park stays as it is");
   return true;
 }

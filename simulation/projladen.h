@@ -47,6 +47,8 @@ class ProjLaden {
   std::vector<Projekteintrag> eintraege;  ///< the listed files, sorted by file name
   std::string Dateiname;                  ///< the name field: a file name, without its folder
   std::string ProjektNam, ProBeschr;      ///< project name and description
+  /// Where opening kept the park that made room, see `park_uebernehmen`; empty for none.
+  std::string Park_beiseite;
 
   /// Opens on a folder (with or without its trailing separator; empty is the data folder) and lists
   /// its files "*.prj" of the module `tag`. An empty tag in a file is accepted only for the modules
@@ -138,6 +140,13 @@ bool Modul_mit_Park(std::string_view tag);
 bool park_sichern(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
 /// The same for a project that stays open: the park stays, and `<name>.VDD` is a copy of it.
 bool park_kopieren(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
-bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei);
+/// `beiseite` takes the file's name where the park that stood there was kept, see
+/// `park_uebernehmen`.
+bool park_laden(Ablage& ablage, std::string_view tag, std::string_view projektdatei,
+                std::string& beiseite);
+/// Renames a park's file to "VerDpark.dat". A park of other content that stands there is first kept
+/// in the data folder as "VerDpark kept.VDD", or the next such name that is free, and `beiseite`
+/// takes that name. False, and both parks where they stood, if a file can't be written or removed.
+bool park_uebernehmen(Ablage& ablage, std::string_view park, std::string& beiseite);
 
 }  // namespace polarkreis

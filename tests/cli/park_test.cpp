@@ -55,6 +55,24 @@ TEST(Park, OpenedItIsRenamedIntoTheDataFolder) {
   EXPECT_EQ(daten.lies("VerDpark.dat"), kAnderer);
   EXPECT_FALSE(ziel.da("rack.VDD"));
   EXPECT_EQ(daten.lies("Temp_Sim.dat"), projekt);
+  EXPECT_EQ(daten.lies("VerDpark kept.VDD"), kPark);
+  EXPECT_TRUE(hat(a.fehler, "kept in the data folder as \"VerDpark kept.VDD\"")) << a.fehler;
+  EXPECT_EQ(daten.rufe({"project", "open", "VerDpark kept.VDD"}).status, 0);
+  EXPECT_EQ(daten.lies("VerDpark.dat"), kPark);
+  EXPECT_EQ(daten.lies("VerDpark kept 2.VDD"), kAnderer);
+}
+
+TEST(Park, OpenedWithItsProjectItKeepsTheOneBefore) {
+  const Datenkopie daten;
+  const TempOrdner ziel;
+  ASSERT_EQ(daten.rufe({"project", "save", ziel.pfad("rack.prj"), "--tag", "KOMP"}).status, 0);
+  ASSERT_EQ(ziel.lies("rack.VDD"), kPark);
+  daten.schreib("VerDpark.dat", kAnderer);
+  const Antwort a = daten.rufe({"project", "open", ziel.pfad("rack.prj")});
+  EXPECT_EQ(a.status, 0) << a.fehler;
+  EXPECT_EQ(daten.lies("VerDpark.dat"), kPark);
+  EXPECT_EQ(daten.lies("VerDpark kept.VDD"), kAnderer);
+  EXPECT_TRUE(hat(a.fehler, "VerDpark kept.VDD")) << a.fehler;
 }
 
 TEST(Park, OpeningTheOneThatIsOpenLosesNothing) {

@@ -217,7 +217,9 @@ TEST_F(Park, IsRenamedBesideTheProjectOnSavingAndBackOnOpening) {
   EXPECT_TRUE(park_sichern(ablage, "VERB", projekt));
   EXPECT_FALSE(daten.da("VerDpark.dat"));
   EXPECT_EQ(projekte.lies("dairy.VDD"), bytes);
-  EXPECT_TRUE(park_laden(ablage, "VERB", projekt));
+  std::string beiseite;
+  EXPECT_TRUE(park_laden(ablage, "VERB", projekt, beiseite));
+  EXPECT_EQ(beiseite, "");
   EXPECT_FALSE(projekte.da("dairy.VDD"));
   EXPECT_EQ(daten.lies("VerDpark.dat"), bytes);
 }
@@ -242,14 +244,40 @@ TEST_F(Park, StaysWhereItIsWhenTheTargetCannotBeWritten) {
   projekte.schreib("mine.VDD", "mine");
   std::filesystem::remove(daten.pfad("VerDpark.dat"));
   std::filesystem::create_directories(daten.pfad("VerDpark.dat"));
-  EXPECT_FALSE(park_laden(ablage, "KOMP", projekte.pfad("mine.prj")));
+  std::string beiseite;
+  EXPECT_FALSE(park_laden(ablage, "KOMP", projekte.pfad("mine.prj"), beiseite));
   EXPECT_EQ(projekte.lies("mine.VDD"), "mine");
 }
 
 TEST_F(Park, AProjectWithoutOneLeavesTheDataFolderAlone) {
   daten.schreib("VerDpark.dat", "park");
-  EXPECT_TRUE(park_laden(ablage, "KOMP", projekte.pfad("dairy.prj")));
+  std::string beiseite;
+  EXPECT_TRUE(park_laden(ablage, "KOMP", projekte.pfad("dairy.prj"), beiseite));
   EXPECT_EQ(daten.lies("VerDpark.dat"), "park");
+}
+
+TEST_F(Park, OfOtherContentIsKeptBesideUnderAFreeName) {
+  std::string beiseite;
+  for (const char* inhalt : {"first \xff", "second", "second", "third"}) {
+    projekte.schreib("dairy.VDD", inhalt);
+    EXPECT_TRUE(park_laden(ablage, "KOMP", projekte.pfad("dairy.prj"), beiseite));
+    EXPECT_EQ(daten.lies("VerDpark.dat"), inhalt);
+  }
+  EXPECT_EQ(daten.lies("VerDpark kept.VDD"), "first \xff");
+  EXPECT_EQ(daten.lies("VerDpark kept 2.VDD"), "second");
+  EXPECT_FALSE(daten.da("VerDpark kept 3.VDD"));
+  EXPECT_EQ(beiseite, "VerDpark kept 2.VDD");
+}
+
+TEST_F(Park, ThatCannotBeKeptBesideStays) {
+  projekte.schreib("dairy.VDD", "its park");
+  daten.schreib("VerDpark.dat", "another");
+  std::filesystem::resize_file(daten.pfad("VerDpark.dat"), (std::uintmax_t{1} << 30) + 1);
+  std::string beiseite;
+  EXPECT_FALSE(park_laden(ablage, "KOMP", projekte.pfad("dairy.prj"), beiseite));
+  EXPECT_EQ(projekte.lies("dairy.VDD"), "its park");
+  EXPECT_GT(std::filesystem::file_size(daten.pfad("VerDpark.dat")), std::uintmax_t{1} << 30);
+  EXPECT_EQ(beiseite, "");
 }
 
 TEST_F(Park, ComesBackWhenTheBrowserOpensItsProject) {
@@ -260,6 +288,8 @@ TEST_F(Park, ComesBackWhenTheBrowserOpensItsProject) {
   browser.waehlen(0);
   EXPECT_TRUE(browser.bestaetigen());
   EXPECT_EQ(daten.lies("VerDpark.dat"), "its park");
+  EXPECT_EQ(browser.Park_beiseite, "VerDpark kept.VDD");
+  EXPECT_EQ(daten.lies("VerDpark kept.VDD"), "another");
   EXPECT_EQ(projekte.namen(), std::vector<std::string>{"dairy.prj"});
 }
 
