@@ -50,7 +50,16 @@ TEST(ImportSteuertext, TextsThatPlainlyAreOfTheOtherKindAreTakenAndTold) {
   EXPECT_TRUE(desk.gemeldet("a logger's own file"));
 }
 
-TEST(ImportSteuertext, FormOfATextShowsInItsFirstLineWithAClockTime) {
+TEST(ImportSteuertext, OneOddLineMakesNoOtherKindOfAFile) {
+  const std::string gut = "20.11.2026 16:05:07, 1, 2\r\n";
+  EXPECT_EQ(Textform_von("20.11.2026 16:05:00\tstart\r\n" + gut + gut), Importform::Steuertext);
+  EXPECT_EQ(Textform_von(gut + "16:05:07\t1\r\n16:05:08\t2\r\n"), Importform::Logger);
+  EXPECT_EQ(Textform_von(gut + "16:05:07\t1\r\n"), Importform::keine);
+  ImportDesk desk;
+  EXPECT_EQ(desk.steuertext("20.11.2026 16:05:00\tstart\r\n" + gut + gut).eher, Importform::keine);
+}
+
+TEST(ImportSteuertext, FormOfATextShowsInItsLinesWithAClockTime) {
   EXPECT_EQ(Textform_von("night of 2.3.\r\n02.03.2026  06:00:00\t231,7\t230,5\r\n"),
             Importform::Logger);
   EXPECT_EQ(Textform_von("\"02.03.2026  06:00:00\",\"231\"\n"), Importform::Steuertext);

@@ -58,6 +58,10 @@ TEST(ImportTesto, SheetOfAnotherInstrumentIsTold) {
   EXPECT_EQ(Blattform_von(desk.blatt), Importform::keine);
   for (const int spalte : {7, 24}) desk.blatt.setze(25, spalte, 8.5);
   EXPECT_EQ(Blattform_von(desk.blatt), Importform::ClimaCheck);
+  desk.blatt.setze(26, 4, Zeitwert{0.6});
+  for (const int spalte : {7, 24}) desk.blatt.setze(26, spalte, 8.5);
+  desk.blatt.setze(25, 24, std::string("-"));
+  EXPECT_EQ(Blattform_von(desk.blatt), Importform::ClimaCheck) << "a gap in its first row";
   const auto als_testo = desk.lies(2);
   EXPECT_NE(als_testo.grund, "");
   EXPECT_EQ(als_testo.eher, Importform::ClimaCheck);
