@@ -55,15 +55,9 @@ bool Klima::gleiches_land(std::string_view a, std::string_view b) {
 }
 
 bool Klimasatz::vollstaendig() const {
-  const double zahlen[] = {T_Sommer_hoch,
-                           Feuchte_Sommer_hoch,
-                           T_Diff_Tag_Nacht,
-                           T_Sommer_tief,
-                           Feuchte_Sommer_tief,
-                           T_Winter_hoch,
-                           T_Winter_tief,
-                           Hoehe,
-                           Breite};
+  const double zahlen[] = {T_Sommer_hoch, Feuchte_Sommer_hoch, T_Diff_Tag_Nacht,
+                           T_Sommer_tief, Feuchte_Sommer_tief, T_Winter_hoch,
+                           T_Winter_tief};
   return std::ranges::none_of(zahlen, ist_leer);
 }
 

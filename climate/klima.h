@@ -26,7 +26,8 @@ struct Klimasatz {
   double Breite = leer;               ///< latitude without its S, degrees
   bool suedlich = false;              ///< the latitude carried an S; nothing acts on it
 
-  /// False where one of the figures is empty: what is worked out from them counts it as 0.
+  /// False where a temperature or humidity is empty: a course counts it as 0. None uses height and
+  /// latitude.
   bool vollstaendig() const;
 };
 

@@ -177,6 +177,14 @@ TEST_F(KlimaWert, CutRecordWithoutASummerHumidityHasTheMonthsOnly) {
   EXPECT_EQ(humidity("Probe"), humidity("Nirgends"));
 }
 
+TEST_F(KlimaWert, RecordWithoutHeightAndLatitudeHasAllThatACourseUses) {
+  desk.folder.schreib("Spain___.DAT",
+                      quoted_lines({"Probe", "32", "40", "10", "20", "60", "8", "-5"}));
+  EXPECT_TRUE(klima.satz("Probe")->vollstaendig());
+  desk.folder.schreib("Spain___.DAT", quoted_lines({"Probe", "32", "40", "10", "20", "60", "8"}));
+  EXPECT_FALSE(klima.satz("Probe")->vollstaendig());
+}
+
 TEST_F(KlimaWert, WholeRecordsAreComplete) {
   EXPECT_TRUE(klima.satz("Probe")->vollstaendig());
   EXPECT_TRUE(klima.satz("Rand")->vollstaendig());
