@@ -73,6 +73,9 @@ Messdatei::Ladung Messplatz::laden(const std::string& name) {
     melde("The file \"" + name + "\" is longer than a measurement may be: " +
           std::to_string(ladung.ueberzaehlig) + " rows behind the first " +
           std::to_string(diagnose.datei.Hoechstzeilen) + " were left out.");
+  if (ladung.ueberzaehlig > 0 && ist_Ausgabe(pfad))
+    throw Abbruch("The file \"" + name +
+                  "\" stays as it is: these rows would be lost. Give another file with --out.");
   const bool leer = diagnose.messung.Messpunkte() == 0 && !ladung.abgelehnt;
   if ((leer || !beginnt_mit_Item(*inhalt)) && !hat_Zeilenzahl(*inhalt))
     throw Abbruch("The file \"" + name +
@@ -80,6 +83,13 @@ Messdatei::Ladung Messplatz::laden(const std::string& name) {
                   "instruments are read with \"import\".");
   einstellen();
   return ladung;
+}
+
+bool Messplatz::ist_Ausgabe(const std::string& pfad) const {
+  if (wuensche_.ausgabe.empty()) return false;
+  const std::string ziel = Messdatei::mit_Endung(zielpfad(wuensche_.ausgabe));
+  std::error_code fehler;
+  return std::filesystem::equivalent(p.ablage.pfad(pfad), p.ablage.pfad(ziel), fehler);
 }
 
 void Messplatz::einstellen() {

@@ -44,7 +44,8 @@ class Messplatz {
   DiaGnostic diagnose;
 
   /// Loads a measurement file and puts the settings over it; a bare name is sought in the current
-  /// folder, then in the data folder. Throws `Abbruch` where there is no such file.
+  /// folder, then in the data folder. Throws `Abbruch` where there is no such file, and where it is
+  /// to be replaced but has more rows than a load takes.
   Messdatei::Ladung laden(const std::string& name);
   /// Puts the settings into the measurement; a capacity that they don't give is the working
   /// project's.
@@ -59,6 +60,9 @@ class Messplatz {
   void drucken(const Messdatei::Ladung& ladung);
 
  private:
+  /// True if the measurement is to be saved over this file.
+  bool ist_Ausgabe(const std::string& pfad) const;
+
   Sitzung& sitzung_;
   const Messwuensche& wuensche_;
   Messeinstellungen einstellungen_;
