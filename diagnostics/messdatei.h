@@ -20,8 +20,8 @@ class Messdatei {
 
   /// The working copy; empty for a job that keeps none.
   std::string Arbeitskopie = "FM_diag.dat";
-  /// Rows that a load takes: eleven days of a sample each five seconds. A load takes about 7.5 kB of
-  /// memory a row, 1.5 GB for them all.
+  /// Rows that a load takes: eleven days of a sample each five seconds. A load takes about 7.5 kB
+  /// of memory a row, 1.5 GB for them all.
   int Hoechstzeilen = 200'000;
   /// Whether an appended row must be on the disk before the run goes on.
   Haltbarkeit Anhaengen = Haltbarkeit::sicher;
