@@ -50,7 +50,12 @@ class Table:
         return between(t, self.t, self.columns[column])
 
     def pressure(self, t):
+        """At the dew point: a rating's temperatures are those of the dry vapour."""
         return math.exp(between(t, self.t, [math.log(p) for p in self.columns[1]]))
+
+    def liquid_enthalpy(self, p):
+        """Of the boiling liquid, which a blend condenses to below its dew temperature."""
+        return self.at(3, between(math.log(p), [math.log(bubble) for bubble in self.columns[2]], self.t))
 
     def suction_density(self, t):
         value = self.at(6, t)
@@ -135,7 +140,7 @@ def compressor(design, table, duty, volume):
     ratio, n = pc / p0, refrigerant.exponent
     full, loss = design.filling
     m = volume / 3600 * rho * (full - loss * (ratio - 1))
-    capacity = m * (table.at(4, t0) + refrigerant.cp_suction * SUPERHEAT - table.at(3, tc))
+    capacity = m * (table.at(4, t0) + refrigerant.cp_suction * SUPERHEAT - table.liquid_enthalpy(pc))
     best, fall, best_ratio = design.efficiency
     efficiency = (best - fall * abs(ratio - best_ratio)) * (1 - 0.6 / (volume + 10))
     power = m * n / (n - 1) * 100 * p0 / rho * (ratio ** ((n - 1) / n) - 1) / efficiency
@@ -193,13 +198,27 @@ def air_side(capacity, difference, air_change, k, rho, pressure):
     return flow, capacity * 1000 / (k * mean), flow / 3600 * pressure / 0.38 / 1000
 
 
-def fans(flow, each, diameters):
-    """Number and diameter in mm of fans that move about `each` m³/h for a diameter of 500 mm."""
-    for diameter in diameters:
-        number = math.ceil(flow / (each * (diameter / 500) ** 2))
+FAN_FLOW = 5.5  # m³/h of a fan of 500 mm for each 1/min; it grows with the cube of the diameter
+TIP_SPEED = 45  # m/s, at most
+
+
+def tip_speed(diameter, speed):
+    """In m/s, of a diameter in mm at a speed in 1/min."""
+    return math.pi * diameter / 1000 * speed / 60
+
+
+def fans(flow, speed, diameters):
+    """Number and diameter in mm of fans at a speed in 1/min: the smallest of which four are enough, or the largest."""
+    for diameter in (d for d in diameters if tip_speed(d, speed) < TIP_SPEED):
+        number = math.ceil(flow / (FAN_FLOW * speed * (diameter / 500) ** 3))
         if number <= 4:
             break
     return number, diameter
+
+
+def fan_sound(number, diameter, speed):
+    """Sound pressure in dB(A) at 10 m: the sixth power of the tip speed, the area that sounds."""
+    return 60 * math.log10(tip_speed(diameter, speed)) + 10 * math.log10(number * diameter / 500) - 47.5
 
 
 @dataclasses.dataclass(frozen=True)
@@ -214,6 +233,8 @@ class Cooler:
     step: float = 1.45
 
 
+COOLER_SPEED = 1330  # 1/min
+
 COOLERS = [
     Cooler("Frostmühle Luftkühler", "FM4", 4, 3.2, -8, 8, 22),
     Cooler("Frostmühle Luftkühler", "FM7", 7, 2.6, -8, 8, 26),
@@ -221,12 +242,17 @@ COOLERS = [
 ]
 
 
+def defrost(cooler, surface):
+    """Power in kW: about 100 W/m², more where narrow gaps freeze up sooner."""
+    return 0.1 * (7 / cooler.fins) ** 0.3 * surface
+
+
 def evaporator(cooler, capacity):
     sensible, air_change = capacity / 1.15, 0.47 * cooler.difference
     t_air = cooler.t0 + cooler.difference
     rho = 353 / (t_air + KELVIN)
     flow, surface, power = air_side(sensible, cooler.difference, air_change, cooler.k, rho, 110)
-    number, diameter = fans(flow, 7200, (350, 400, 450, 500, 630, 710))
+    number, diameter = fans(flow, COOLER_SPEED, (350, 400, 450, 500, 630))
     return [
         f"{cooler.series}-{significant(capacity)}",
         f"{cooler.maker}, {cooler.series}",
@@ -240,7 +266,7 @@ def evaporator(cooler, capacity):
         f"Fan power: {significant(power, 2)} kW",
         f"Air throw: {round(0.045 * diameter * (flow / number / 5000) ** 0.5 + 2)} m",
         f"Sound pressure: {38 + 3.7 * math.log(flow / 1000):.0f} dB(A), 3 m",
-        f"Electric defrost: {significant(0.052 * surface, 2)} kW",
+        f"Electric defrost: {significant(defrost(cooler, surface), 2)} kW",
         f"Weight: {significant(14 + 0.62 * surface * (4 + cooler.fins) / 8, 2)} kg",
     ]
 
@@ -269,7 +295,7 @@ def condenser(series, capacity):
     difference = T_CONDENSING - T_AIR
     rho = 353 / (T_AIR + KELVIN)
     flow, surface, power = air_side(capacity, difference, 0.53 * difference, series.k, rho, series.pressure)
-    number, diameter = fans(flow, 6500 * series.speed / 890, (500, 630, 800, 910, 1000))
+    number, diameter = fans(flow, series.speed, (500, 630, 800, 910, 1000))
     length = number * (diameter * 1.35 + 60)
     return [
         f"{series.series} {significant(capacity)}",
@@ -283,7 +309,7 @@ def condenser(series, capacity):
         f"Fans: {number} × Ø {diameter} mm",
         f"Fan power: {significant(power, 2)} kW",
         f"Fan speed: {series.speed} 1/min",
-        f"Sound pressure: {14 + 4.4 * math.log(flow / 1000) + series.speed / 75:.0f} dB(A), 10 m",
+        f"Sound pressure: {fan_sound(number, diameter, series.speed):.0f} dB(A), 10 m",
         f"Size: {length:.0f} × {diameter * 1.3 + 90:.0f} × {diameter * 0.6 + 480:.0f} mm",
         f"Weight: {significant(30 + 0.75 * surface, 2)} kg",
     ]

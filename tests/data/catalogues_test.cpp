@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <map>
@@ -251,9 +252,13 @@ TEST(CatalogueCompressors, MoveWhatTheirRefrigerantCarries) {
                            (rows[i][datafolder::kT] - rows[i - 1][datafolder::kT]);
       return rows[i - 1][column] + share * (rows[i][column] - rows[i - 1][column]);
     };
+    // The liquid boils at the condensing pressure, a blend's below its dew temperature.
+    const double pc = at(datafolder::kDew, r.tc);
+    double liquid = r.tc;
+    while (at(datafolder::kBubble, liquid) > pc) liquid -= 0.05;
     const double carried =
         r.volume / 3600 * at(datafolder::kVapour, r.t0) *
-        (at(datafolder::kVapourEnthalpy, r.t0) - at(datafolder::kLiquidEnthalpy, r.tc));
+        (at(datafolder::kVapourEnthalpy, r.t0) - at(datafolder::kLiquidEnthalpy, liquid));
     EXPECT_GT(r.capacity, 0.5 * carried) << name;
     EXPECT_LT(r.capacity, carried) << name;
   });
@@ -283,6 +288,45 @@ TEST(CatalogueEvaporators, FollowHeatTransfer) {
     check_coil(texts, air - t0, 353 / (air + 273.15), 1 / 1.15);
     const double fins = value(texts[2], "Fin spacing", "mm");
     EXPECT_TRUE(fins == 4 || fins == 7 || fins == 12) << texts[2];
+  });
+}
+
+TEST(CatalogueEvaporators, DefrostMoreWattsASquareMetreTheNarrowerTheirGaps) {
+  std::map<double, double> lowest, highest;  // W/m², by fin spacing
+  for_each_component(kCatalogues[1], [&](const Items& texts, std::size_t) {
+    const double fins = value(texts[2], "Fin spacing", "mm");
+    const double watts =
+        1000 * value(texts[12], "Electric defrost", "kW") / value(texts[6], "Surface", "m\xFD");
+    double& low = lowest.try_emplace(fins, watts).first->second;
+    low = std::min(low, watts);
+    highest[fins] = std::max(highest[fins], watts);
+  });
+  for (const double fins : {4, 7, 12}) {
+    EXPECT_GT(lowest.at(fins), 80) << fins;
+    EXPECT_LT(highest.at(fins), 130) << fins;
+  }
+  EXPECT_GT(lowest.at(4), highest.at(7));
+  EXPECT_GT(lowest.at(7), highest.at(12));
+}
+
+// The flow of a fan goes with its speed and the cube of its diameter, and its blades' tips stay
+// below 45 m/s.
+TEST(CatalogueCondensers, HaveFansThatMoveTheirAir) {
+  for_each_component(kCatalogues[2], [](const Items& texts, std::size_t) {
+    const double number = between(texts[8], "Fans: ", " ");
+    const double diameter = between(texts[8], "\x9D ", " mm") / 1000;
+    const double speed = value(texts[10], "Fan speed", "1/min") / 60;
+    EXPECT_LT(3.14159265 * diameter * speed, 45) << texts[0];
+    const double each = value(texts[5], "Air flow", "m\xFC/h") / 3600 / number;
+    const double share = each / (speed * diameter * diameter * diameter);
+    EXPECT_GT(share, 0.3) << texts[0];
+    EXPECT_LT(share, 0.75) << texts[0];
+    const double sound = between(texts[11], "Sound pressure: ", " dB");
+    EXPECT_GT(sound, 25) << texts[0];
+    EXPECT_LT(sound, 65) << texts[0];
+    if (speed > 20) {
+      EXPECT_GT(sound, 44) << texts[0];
+    }
   });
 }
 
