@@ -80,8 +80,8 @@ bool LogpLauf::Drucke_moeglich() const {
 bool LogpLauf::Ergebnis_moeglich() const {
   const bool zwei = e.Art == Schaltung::zweistufig || e.Art == Schaltung::Flashgas_eigen;
   const bool zweite_gut = !zwei || e.P_2 > 0 || (e.m_zu == 0 && e.Art == Schaltung::Flashgas_eigen);
-  return e.m > 0 && e.m_Modell > 0 && e.P_1 > 0 && zweite_gut && std::isfinite(e.h_liq) &&
-         std::isfinite(e.Qc);
+  return e.m > 0 && e.m_zu >= 0 && e.m_Modell > 0 && e.P_1 > 0 && zweite_gut &&
+         std::isfinite(e.h_liq) && std::isfinite(e.Qc);
 }
 
 double LogpLauf::T_liq() const {

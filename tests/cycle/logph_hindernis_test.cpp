@@ -139,6 +139,17 @@ TEST(LogphHindernis, AnEndOfCompressionAboveTheTableOfR744) {
   }
 }
 
+// Gas hotter than the tank's vapour makes no liquid there.
+TEST(LogphHindernis, ATankThatGetsHotGas) {
+  LogphPlatz p("R744", 17, 41);
+  p.form.P_hoch = 79;
+  p.form.Zweistufig = 1;
+  p.form.toh_EV_Scroll = 7.6;
+  p.form.p_Int_Scroll = 4.3;
+  p.form.p0F = 52;
+  EXPECT_EQ(p.hindernis(), Hindernis::Kreis);
+}
+
 TEST(LogphHindernis, LiquidColderThanTheEvaporator) {
   LogphPlatz p;
   p.form.dT_sc = 60;
