@@ -40,6 +40,9 @@ struct Dateistand {
 /// run).
 enum class Haltbarkeit { sicher, wiederholbar };
 
+/// Who may read a file that is saved: those who might before, or its owner alone (passwords).
+enum class Zugriff { wie_bisher, nur_Eigner };
+
 /// The file store: every file of the program is opened here.
 ///
 /// A name without "/" and "\" lies in the data folder `Datenordner`; any other name is a path as it
@@ -99,7 +102,10 @@ class Ablage {
   /// read-only target is refused, a link stays a link, and a name that stands in another case is
   /// the target.
   bool schreib_ganz(std::string_view name, std::string_view inhalt,
-                    Haltbarkeit = Haltbarkeit::sicher);
+                    Haltbarkeit = Haltbarkeit::sicher, Zugriff = Zugriff::wie_bisher);
+  /// Makes the folder, and those above it, where it is absent, and opens it to its owner alone.
+  /// False on a failure.
+  bool mache_privaten_ordner(std::string_view name);
   /// Appends a record in one write, whole or not at all; false on a failure, and the file holds
   /// what it held. The file is made if it is absent.
   bool haenge_an(std::string_view name, std::string_view satz, Haltbarkeit = Haltbarkeit::sicher);

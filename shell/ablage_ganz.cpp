@@ -16,13 +16,24 @@ std::optional<std::string> Ablage::lies_ganz(std::string_view name) {
   return std::nullopt;
 }
 
-bool Ablage::schreib_ganz(std::string_view name, std::string_view inhalt, Haltbarkeit haltbarkeit) {
+bool Ablage::schreib_ganz(std::string_view name, std::string_view inhalt, Haltbarkeit haltbarkeit,
+                          Zugriff zugriff) {
   const std::string wo = pfad(name);
   int fehler = platte::mache_ordner(platte::ort(wo).ordner);
-  if (fehler == 0) fehler = platte::ersetze(wo, inhalt, haltbarkeit == Haltbarkeit::sicher);
+  if (fehler == 0)
+    fehler = platte::ersetze(wo, inhalt, haltbarkeit == Haltbarkeit::sicher,
+                             zugriff == Zugriff::nur_Eigner);
   if (fehler != 0) return misslungen(wo, platte::grund(fehler));
   letzter_fehler_.clear();
   alles_pruefen();
+  return true;
+}
+
+bool Ablage::mache_privaten_ordner(std::string_view name) {
+  const std::string wo = pfad(name);
+  const int fehler = platte::mache_privaten_ordner(wo);
+  if (fehler != 0) return misslungen(wo, platte::grund(fehler));
+  letzter_fehler_.clear();
   return true;
 }
 

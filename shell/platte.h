@@ -34,8 +34,9 @@ int lege_an(const std::string& pfad);
 /// Puts a file of this content in place in one step, or leaves the old one whole: nothing else
 /// remains. A link stays a link, mode and owner of an old file are kept, a read-only file and a
 /// folder are refused; what is no regular file (a device) is written to directly. `sicher`: it
-/// survives a power failure from here on.
-int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher);
+/// survives a power failure from here on. `privat`: only the owner may read and write it from here
+/// on, whatever its mode was.
+int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher, bool privat = false);
 /// Appends in one write; the file is made if it is absent.
 int haenge_an(const std::string& pfad, std::string_view inhalt);
 /// Appends a record in one write, or nothing: on a failure the file is cut back to what it held.
@@ -45,6 +46,8 @@ int haenge_satz_an(const std::string& pfad, std::string_view satz, bool sicher);
 int loesche(const std::string& pfad);
 /// Makes the folder and those above it.
 int mache_ordner(const std::string& ordner);
+/// The same, and the folder itself is open to its owner alone, also where it was there.
+int mache_privaten_ordner(const std::string& ordner);
 
 /// The spelling under which `name` stands in the folder: the exact one, else the first of another
 /// case in byte order, else the empty text.

@@ -80,6 +80,11 @@ int mache_ordner(const std::string& ordner) {
   return fehler.value();
 }
 
+int mache_privaten_ordner(const std::string& ordner) {
+  if (const int fehler = mache_ordner(ordner); fehler != 0) return fehler;
+  return ::chmod(ordner.c_str(), 0700) == 0 || errno == EPERM ? 0 : errno;
+}
+
 std::string grund(int fehler) {
   switch (fehler) {
     case Nur_lesbar:

@@ -19,6 +19,9 @@ namespace polarkreis::platte {
 
 namespace {
 
+/// Mode of a file that only its owner may read and write.
+constexpr mode_t kNurEigner = 0600;
+
 /// A write beyond the size that the system allows ends the program by a signal, unless the thread
 /// holds it back: then it is an error like any other.
 class Groessensignal_gesperrt {
@@ -154,18 +157,20 @@ int sperre(const std::string& pfad, const struct stat& alt) {
 
 /// Gives the new file owner and mode of the old one. The owner is a wish (only root may give files
 /// away) and comes first, since a change of owner clears bits of the mode.
-void uebernimm(int datei, const struct stat& alt) {
+void uebernimm(int datei, const struct stat& alt, bool privat) {
   if (::fchown(datei, alt.st_uid, alt.st_gid) != 0) errno = 0;
-  ::fchmod(datei, alt.st_mode & 07777);
+  ::fchmod(datei, privat ? kNurEigner : (alt.st_mode & 07777));
 }
 
 int ersetze_regulaer(const std::string& ziel, std::string_view inhalt,
-                     const std::optional<struct stat>& alt, bool sicher, bool namenlos) {
+                     const std::optional<struct stat>& alt, bool sicher, bool privat,
+                     bool namenlos) {
   const std::string ordner = ort(ziel).ordner;
   Kurzlebig neu(ordner, namenlos);
   if (!neu) return errno;
+  if (privat) ::fchmod(neu.nummer(), kNurEigner);
   if (const int fehler = schreib_alles(neu.nummer(), inhalt); fehler != 0) return fehler;
-  if (alt) uebernimm(neu.nummer(), *alt);
+  if (alt) uebernimm(neu.nummer(), *alt, privat);
   if (sicher && ::fsync(neu.nummer()) != 0) return errno;
   if (const int fehler = neu.setze_an(ziel, alt && !sicher); fehler != 0) return fehler;
   if (sicher) {
@@ -182,7 +187,7 @@ bool namenlos_geht_nicht(int fehler) {
 
 }  // namespace
 
-int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher) {
+int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher, bool privat) {
   std::optional<struct stat> alt(std::in_place);
   if (::stat(pfad.c_str(), &*alt) != 0) {
     if (errno != ENOENT) return errno;
@@ -195,9 +200,9 @@ int ersetze(const std::string& pfad, std::string_view inhalt, bool sicher) {
   std::string ziel = pfad;
   if (const int fehler = ende_der_kette(ziel); fehler != 0) return fehler;
   if (ort(ziel).name.empty()) return EISDIR;
-  const int fehler = ersetze_regulaer(ziel, inhalt, alt, sicher, true);
+  const int fehler = ersetze_regulaer(ziel, inhalt, alt, sicher, privat, true);
   if (!namenlos_geht_nicht(fehler)) return fehler;
-  return ersetze_regulaer(ziel, inhalt, alt, sicher, false);
+  return ersetze_regulaer(ziel, inhalt, alt, sicher, privat, false);
 }
 
 int lege_an(const std::string& pfad) {

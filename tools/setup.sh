@@ -3,8 +3,8 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libserialport-dev libfreexl-dev libzip-dev
-  libpugixml-dev libxlsxwriter-dev)
-test=(libgtest-dev clang-format python3 git libreoffice-calc-nogui)
+  libpugixml-dev libxlsxwriter-dev libcurl4-openssl-dev)
+test=(libgtest-dev clang-format python3 git libreoffice-calc-nogui python3-pyftpdlib)
 bench=(libbenchmark-dev)
 fuzz=(clang libclang-rt-14-dev python3)
 

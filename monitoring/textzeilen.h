@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace polarkreis {
+
+/// Takes one quoted text a line off the register's and the plants' files, which other hands may
+/// have written. A text that is quoted as this program does it (a quote inside twice, line ends
+/// kept) may go over several lines. Any other line is one text by itself: without the quotes at its
+/// two ends, and with those inside as they stand, so that a quote too many or too few spoils no
+/// other line. Blanks and tabs around a line are dropped; lines end with LF or CR LF.
+class Textzeilen {
+ public:
+  explicit Textzeilen(std::string_view text) : text_(text) {}
+
+  /// True when no line is left; the last line end adds none.
+  bool ende() const { return ort_ >= text_.size(); }
+  /// The next text; the empty text at the end.
+  std::string lies();
+  /// Lines so far whose quotes were broken.
+  int gebrochen() const { return gebrochen_; }
+
+ private:
+  bool lies_in_Anfuehrung(std::string& target);
+  std::string lies_zeile();
+  std::size_t zeilenende(std::size_t von) const;
+
+  std::string_view text_;
+  std::size_t ort_ = 0;
+  std::size_t offen_bis_ = 0;  // line starts up to here: a text that is open there never closes
+  int gebrochen_ = 0;
+};
+
+}  // namespace polarkreis
