@@ -164,9 +164,7 @@ class ftp_server {
   void Regeln_hoch();
   void Regeln_herunter();
   void Regel_lesen(std::string_view text, Alarmregel& regel) const;
-  bool schreib_Tempdatei(const std::string& Dateiname, std::string_view inhalt);
   bool weiter(const std::string& Dateiname, int nummer, int anzahl);
-  void hoch(const std::string& Dateiname, std::string_view inhalt);
   std::string* Regelzelle(int Zeile, int Spalte);
 
   Ablage& ablage_;

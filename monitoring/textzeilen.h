@@ -13,7 +13,9 @@ namespace polarkreis {
 /// other line. Blanks and tabs around a line are dropped; lines end with LF or CR LF.
 class Textzeilen {
  public:
-  explicit Textzeilen(std::string_view text) : text_(text) {}
+  /// `eigen`: the whole text was written by this program, and its quotes count. Otherwise a line of
+  /// nothing but quotes ends an open text, too: it is an empty text of its own.
+  explicit Textzeilen(std::string_view text, bool eigen = false) : text_(text), eigen_(eigen) {}
 
   /// True when no line is left; the last line end adds none.
   bool ende() const { return ort_ >= text_.size(); }
@@ -25,9 +27,11 @@ class Textzeilen {
  private:
   bool lies_in_Anfuehrung(std::string& target);
   std::string lies_zeile();
+  bool bricht_ab(std::size_t zeilenende) const;
   std::size_t zeilenende(std::size_t von) const;
 
   std::string_view text_;
+  bool eigen_;
   std::size_t ort_ = 0;
   std::size_t offen_bis_ = 0;  // line starts up to here: a text that is open there never closes
   int gebrochen_ = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,12 +65,19 @@ class Uebertragung {
   /// file name (it holds a path's separator) is refused before anything is sent.
   Ergebnis Hoch_laden(Ladeweg weg, const std::string& Dateiname);
 
+  /// Writes the local file, readable by its owner alone, and uploads it. What can't be written
+  /// doesn't go out: the file there would be that of an earlier upload.
+  Ergebnis Abschicken(const std::string& Dateiname, std::string_view inhalt);
+  /// The local copy of a file; nothing if there is none.
+  std::optional<std::string> Kopie(const std::string& Dateiname) const;
+
   /// Makes the temporary folder, open to its owner alone; one that is there is no error.
   bool Tempordner_anlegen();
   /// The local path of a file in the temporary folder.
   std::string Tempdatei(std::string_view Dateiname) const;
 
  private:
+  Ergebnis Beginn(Ladeweg weg, const std::string& Dateiname) const;
   void laden(Ergebnis& ergebnis, const std::string& Basis);
   void ablegen(Ergebnis& ergebnis);
   int herunterladen(const std::string& Adresse, const std::string& Lokal);

@@ -57,6 +57,8 @@ enum class Caption {
   Schliessen = 16,
   Projekt = 25,
   Beschreibung = 26,
+  Kunde = 27,
+  Standort = 29,
   Datum = 31,
   Ueberschreiben = 37,
   Ende_Frage = 38,
@@ -134,6 +136,7 @@ enum class Caption {
   Messung_laeuft = 182,
   Messung_beendet = 183,
   Logger_auslesen = 185,
+  Alarmverzoegerung = 192,
   Direktverdampfung = 217,
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "monitoring/ftp_konto.h"
 #include "shell/items.h"
 #include "shell/start/version.h"
 #include "shell/text.h"
@@ -54,6 +55,7 @@ std::string Datenordner_festlegen(Programm& p, const Startangaben& angaben) {
                    : std::string(Nicht_schreibbar);
   }
   p.meldungen.setze_ordner(ablage.Datenordner);
+  if (!gegeben) Standardkonto_anlegen(ablage);
   if (!gegeben && !weiter) p.meldungen.melde("start", zuletzt, "not there: found afresh");
   return {};
 }

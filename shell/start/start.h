@@ -46,8 +46,9 @@ struct Startangaben {
 };
 
 /// The first step of the start: puts the data folder in force, filled at its first start, with the
-/// shared settings that lie in it, and names it to the message log. Gives the reason if there is no
-/// such folder, else the empty text.
+/// shared settings that lie in it and an empty operator file for the monitoring's account, and
+/// names it to the message log. A folder that was asked for gets no file. Gives the reason if there
+/// is no such folder, else the empty text.
 std::string Datenordner_festlegen(Programm& programm, const Startangaben& angaben);
 
 /// The program's entry: start, main menu and end.

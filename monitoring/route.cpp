@@ -1,0 +1,55 @@
+#include "monitoring/route.h"
+
+#include <cstddef>
+
+#include "shell/text.h"
+#include "shell/wert.h"
+
+namespace polarkreis {
+
+namespace {
+
+constexpr int kKeine = 0;
+
+std::string route(const Captions& captions, int nummer) {
+  if (nummer == kKeine) return captions.text(PedCap::Ohne);
+  constexpr int kSMS1 = 1, kSMS2 = 2, kMail = 4, kFtp = 8;
+  std::string text;
+  const auto dazu = [&](int bit, std::string_view name) {
+    if ((nummer & bit) == 0) return;
+    if (!text.empty()) text += " + ";
+    text += name;
+  };
+  dazu(kFtp, "ftp");
+  dazu(kMail, "E-Mail");
+  dazu(kSMS1, "SMS1");
+  dazu(kSMS2, "SMS2");
+  return text;
+}
+
+int nummer(const Captions& captions, std::string_view text) {
+  const std::string_view gesucht = getrimmt(text);
+  if (gesucht.empty()) return Route_alle;
+  for (int n = 0; n < Route_alle; ++n)
+    if (getrimmt(route(captions, n)) == gesucht) return n;
+  return Route_alle;
+}
+
+}  // namespace
+
+std::string Flag_find(const Captions& captions, std::string_view Text, int Richtung) {
+  if (Richtung == 1) return std::to_string(nummer(captions, Text));
+  const std::string_view ziffern = getrimmt(Text);
+  const bool ist_Zahl = !ziffern.empty() && ziffern.front() >= '0' && ziffern.front() <= '9';
+  const double zahl = Wert(ziffern);
+  const bool bekannt = ist_Zahl && zahl < Route_alle && zahl == Int(zahl);
+  return route(captions, bekannt ? static_cast<int>(zahl) : Route_alle);
+}
+
+std::vector<std::string> Routen(const Captions& captions) {
+  std::vector<std::string> alle;
+  for (int n = 0; n <= Route_alle; ++n) alle.push_back(route(captions, n));
+  return alle;
+}
+
+}  // namespace polarkreis
