@@ -30,6 +30,7 @@ ftp_server::ftp_server(Ablage& ablage, const Captions& captions, Dialog& dialog,
 void ftp_server::Oeffnen() {
   start_caption();
   ftp.Tempordner_anlegen();
+  FTPSpread = {};
   Save_monitoring(2);
   Kalender(1);
   offen = true;
