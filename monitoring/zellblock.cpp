@@ -79,7 +79,9 @@ class Zellenleser {
 
 }  // namespace
 
+// A last row of one empty cell would be gone, since the last line end adds no row.
 std::string Block_Text(const Zellblock& block) {
+  const bool endet_leer = !block.empty() && block.back() == std::vector<std::string>{""};
   std::string text;
   for (std::size_t z = 0; z < block.size(); ++z) {
     if (z > 0) text += '\r';
@@ -88,6 +90,7 @@ std::string Block_Text(const Zellblock& block) {
       zelle_anhaengen(text, block[z][s]);
     }
   }
+  if (endet_leer) text += '\r';
   return text;
 }
 

@@ -11,7 +11,7 @@ using Zellblock = std::vector<std::vector<std::string>>;
 
 /// The block as text for the clipboard: tab between cells, carriage return between rows. A cell
 /// that holds one of these, a line feed or a quote at its beginning stands in quotes, inner quotes
-/// twice, as spreadsheets do it.
+/// twice, as spreadsheets do it. Behind a last row of one empty cell stands a carriage return, too.
 std::string Block_Text(const Zellblock& block);
 
 /// The cells of a text from the clipboard, this program's or a spreadsheet's: rows end with CR, LF

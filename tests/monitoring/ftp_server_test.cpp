@@ -369,6 +369,18 @@ TEST_F(FtpServerTest, SingleCellFillsTheSelection) {
   EXPECT_EQ(desk.FTPSpread.zelle(4, 1), "");
 }
 
+TEST_F(FtpServerTest, EmptyCellAtTheEndOfACopyIsPastedToo) {
+  desk.FTPSpreadText(1, 1, "a");
+  waehle(1, 1, 2, 1);
+  const std::string kopie = desk.FTPSpreadcopy();
+  desk.FTPSpreadText(6, 1, "old");
+  waehle(5, 1, 7, 1);
+  desk.FTPSpreadpaste(kopie);
+  EXPECT_EQ(desk.FTPSpread.zelle(5, 1), "a");
+  EXPECT_EQ(desk.FTPSpread.zelle(6, 1), "");
+  EXPECT_EQ(desk.FTPSpread.zelle(7, 1), "");
+}
+
 TEST_F(FtpServerTest, CellsOutsideTheTableAreCounted) {
   waehle(100, 99, 100, 99);
   desk.FTPSpreadpaste("a\tb\tc\rd\te\tf");

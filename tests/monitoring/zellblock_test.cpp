@@ -40,6 +40,14 @@ TEST(Zellblock, BlockComesBackAsItWas) {
   EXPECT_EQ(Text_Block(Block_Text(block)), block);
 }
 
+TEST(Zellblock, LastRowOfOneEmptyCellIsARowToo) {
+  EXPECT_EQ(Block_Text({{"a"}, {""}}), "a\r\r");
+  EXPECT_EQ(Block_Text({{""}}), "\r");
+  for (const Zellblock& block : {Zellblock{{"a"}, {""}}, Zellblock{{""}}, Zellblock{{""}, {""}},
+                                 Zellblock{{"", ""}}, Zellblock{{"a", ""}, {"", ""}}})
+    EXPECT_EQ(Text_Block(Block_Text(block)), block);
+}
+
 TEST(Zellblock, QuoteThatNeverClosesLosesNothing) {
   std::string alles;
   for (const auto& zeile : Text_Block("a\t\"b\tc\rd"))
