@@ -25,6 +25,11 @@ def measurement(rows, count, language="ENG"):
     return "".join(f'"{line}"\r\n' for line in heading).encode("utf-8")
 
 
+def quoted(texts):
+    """One quoted text a line."""
+    return "".join('"' + text.replace('"', '""') + '"\r\n' for text in texts).encode("utf-8")
+
+
 def xml_parts(path):
     """The parts of a zipped worksheet, with only its first rows."""
     with zipfile.ZipFile(path) as archive:
@@ -57,6 +62,16 @@ def seeds():
     texts = (DATA / "VERDICHI.rdm").read_bytes()[:128 * 3]
     yield "katalog", "whole", b"%\n".join([index, b"AAAAAAA Compressors\r\n", b"BB\r\n", b"", texts, records])
     yield "katalog", "list", b"%\n".join([b"", b"", b"AA", b'"AAAAAAAN.rdm","Text","2"\r\n', b"", records[:1000]])
+    cells = ["K17", "Cold store", 'Gate "3", left', "two\r\nlines"] + [""] * 35
+    rule = ["c1=tc;", "ro=  ;", "c2=  ;", "cm=3;", "vl=45;", "ti=10;", "nt=3;", "en=1;"]
+    yield "monitor", "register", b"0" + quoted(cells + ["".join(rule)])
+    yield "monitor", "broken quotes", b"0" + b'"K17\r\n""\r\n"Cold"store"\r\n""x"\nK\xfchlhaus"\n' + quoted(cells)
+    yield "monitor", "many cells", b"0" + quoted(["a"] * 10001)
+    yield "monitor", "settings", b"1" + quoted(["nm=Cold store;", "fn=R404A;", "", "pw=a;b;", "xx=1;", "nt=10;"])
+    yield "monitor", "plain settings", b"1nm=K\xfchlhaus;\nst=a\n\ntw=;\nnt=99;"
+    yield "monitor", "rule", b"2" + quoted(rule)
+    yield "monitor", "short rule", b"2" + quoted(rule[:4] + ["vl=4;5;", "", "en=1;"])
+    yield "monitor", "clipboard", b'3K17\tCold store\r"a\tb"\t"c""d"\r\n\n\t'
 
 
 def main():
