@@ -144,6 +144,14 @@ TEST_F(EinstellungenTest, WritingBackPutsEachFieldAsItStandsIntoItsColumn) {
   EXPECT_EQ(zelle(2, Registerspalte::Server_Wahl), "1");
 }
 
+TEST_F(EinstellungenTest, WritingBackPutsTheShownIDIntoItsColumn) {
+  anlage(2, "K17");
+  desk.handle_settings(1);
+  desk.ID_Label = "K18";
+  desk.set_speich();
+  EXPECT_EQ(zelle(2, Registerspalte::ID), "K18");
+}
+
 TEST_F(EinstellungenTest, WritingBackSavesNoFile) {
   anlage(1, "K17");
   desk.set_speich();

@@ -70,6 +70,8 @@ TEST_F(RegisterTest, KeepsWhateverACellHolds) {
                         "\r",
                         "\n",
                         "a\r\nb",
+                        "a\r\n\"\r\nb",
+                        "a\n\"\"\n",
                         ",",
                         "a,\"b\",c",
                         "\t",
@@ -141,6 +143,7 @@ TEST_F(RegisterTest, LinesBeyondTheLastCellAreCountedAndTheFileStays) {
   EXPECT_EQ(reg.zelle(100, 100), "10000");
   EXPECT_EQ(reg.zelle(1, 1), "1");
   EXPECT_EQ(zeilen_mit("10000"), 1);
+  EXPECT_EQ(reg.ueberzaehlig, 10000);
   EXPECT_EQ(ordner.lies(Register::Datei), vorher);
 }
 
