@@ -292,64 +292,20 @@ TEST_F(EinstellungenTest, FailedDownloadWithoutACopyReadsNothing) {
   EXPECT_EQ(dialog.texte, Zeilen{});
 }
 
-TEST_F(EinstellungenTest, BlankLinesAndUnknownKeysAreSkipped) {
-  desk.st_edit = "kept";
-  desk.Einstellsatz_uebernehmen(
-      "\r\n\"nm=one;\"\r\n\"\"\r\n   \r\n\"  \"\r\n\"xx=two;\"\r\n\"NM=three;\"\r\n\"n\"\r\n"
-      "\"tw=four;\"\r\n");
-  EXPECT_EQ(desk.nm_edit, "one");
-  EXPECT_EQ(desk.tw_edit, "four");
-  EXPECT_EQ(desk.st_edit, "kept");
-}
-
-TEST_F(EinstellungenTest, ValueGoesToItsLastSemicolon) {
-  desk.Einstellsatz_uebernehmen("\"nm=a;b;c;\"\r\n\"st=d;e\"\r\n\"pw=;;\"\r\n\"tw=x=y;\"\r\n");
-  EXPECT_EQ(desk.nm_edit, "a;b;c");
-  EXPECT_EQ(desk.st_edit, "d");
-  EXPECT_EQ(desk.pw_edit, ";");
-  EXPECT_EQ(desk.tw_edit, "x=y");
-}
-
-TEST_F(EinstellungenTest, LaterLineOfAKeyCounts) {
-  desk.Einstellsatz_uebernehmen("\"nm=a;\"\r\n\"nm=b;\"\r\n");
-  EXPECT_EQ(desk.nm_edit, "b");
-}
-
-TEST_F(EinstellungenTest, RouteNumberIsShownAsItsText) {
-  const std::pair<const char*, const char*> faelle[] = {{"0", "none"},
-                                                        {"1", "SMS1"},
-                                                        {"10", "ftp + SMS2"},
-                                                        {"15", "ftp + E-Mail + SMS1 + SMS2"},
-                                                        {"77", "ftp + E-Mail + SMS1 + SMS2"},
-                                                        {"-1", "ftp + E-Mail + SMS1 + SMS2"}};
-  for (const auto& [zahl, text] : faelle) {
-    desk.Einstellsatz_uebernehmen(zeile("nt=" + std::string(zahl) + ";"));
-    EXPECT_EQ(desk.nt_edit, text) << zahl;
-  }
-}
-
-TEST_F(EinstellungenTest, RecordOfAnotherMachineIsRead) {
-  desk.Einstellsatz_uebernehmen("nm=plain;\n\"st=a\n\"nu=5\"a;\"\n\"tw=Aachen;\"");
-  EXPECT_EQ(desk.nm_edit, "plain");
-  EXPECT_EQ(desk.nu_edit, "5\"a");
-  EXPECT_EQ(desk.tw_edit, "Aachen");
+TEST_F(EinstellungenTest, TransferTellsItsStepsAndCanBeStopped) {
+  FtpFortschritt fortschritt;
+  desk.fortschritt = &fortschritt;
   anlage(1, "K17");
-  fern("\"nm=K\xFChlhaus;\"\r\n");
+  desk.set_upload();
   desk.set_download();
-  EXPECT_EQ(desk.nm_edit, "Kühlhaus");
-}
-
-TEST_F(EinstellungenTest, RecordComesBackAsItWas) {
-  anlage(1, "K17", "2");
-  for (const ftp_server::Feld& feld : ftp_server::Felder())
-    desk.*feld.text = "a;\"b\",\tc=" + std::string(feld.schluessel);
-  desk.nt_edit = "SMS1 + SMS2";
-  desk.Server_settings();
-  const std::string text = desk.Einstellsatz();
-  ftp_server andere(ablage, texte.captions, dialog, klient);
-  andere.Einstellsatz_uebernehmen(text);
-  for (const ftp_server::Feld& feld : ftp_server::Felder())
-    EXPECT_EQ(andere.*feld.text, desk.*feld.text) << feld.schluessel;
+  EXPECT_EQ(fortschritt.schritte,
+            (std::vector<std::pair<int, int>>{{0, 1}, {1, 1}, {0, 1}, {1, 1}}));
+  fortschritt.halt_ab = 0;
+  klient.rufe.clear();
+  desk.set_upload();
+  desk.set_download();
+  EXPECT_EQ(klient.rufe, Zeilen{});
+  EXPECT_TRUE(desk.Ergebnisse.empty());
 }
 
 TEST_F(EinstellungenTest, UploadWithoutAConnectionWritesTheFileAndLogsOnlyTheProbe) {

@@ -1,4 +1,4 @@
-// The desk itself: opening and closing, pages, lists, register cells, clipboard.
+// The desk itself: opening and closing, pages, lists.
 
 #include <gtest/gtest.h>
 
@@ -11,11 +11,7 @@ using namespace polarkreis;
 
 namespace {
 
-struct FtpServerTest : testing::Test, FtpDesk {
-  void waehle(int zeile_, int spalte, int zeile2, int spalte2) {
-    desk.FTPSpread_Auswahl = {zeile_, spalte, zeile2, spalte2};
-  }
-};
+struct FtpServerTest : testing::Test, FtpDesk {};
 
 const Zeilen kKaeltemittel = {
     "CO2",   "AMMONIAK", "PROPAN", "PROPYLEN", "HFO1234YF", "HFO1234ZE", "R13B1",  "R123",  "R124",
@@ -305,105 +301,4 @@ TEST_F(FtpServerTest, AnotherPageHidesTheOpenEditors) {
   desk.AlertSpreadEdit(6, 1);
   desk.HideComponents();
   EXPECT_FALSE(desk.AlertSpreadText.sichtbar);
-}
-
-TEST_F(FtpServerTest, CellIsEditedByItsText) {
-  desk.FTPSpreadText(3, 7, "Aachen");
-  EXPECT_EQ(zelle(3, Registerspalte::tw), "Aachen");
-  desk.FTPSpreadText(0, 7, "x");
-  desk.FTPSpreadText(3, 101, "x");
-}
-
-TEST_F(FtpServerTest, DeletingBlanksTheSelectionAndNothingElse) {
-  for (int z = 1; z <= 4; ++z)
-    for (int s = 1; s <= 4; ++s) desk.FTPSpreadText(z, s, "x");
-  waehle(2, 2, 3, 3);
-  desk.FTPSpreadDelete();
-  int belegt = 0;
-  for (int z = 1; z <= 4; ++z)
-    for (int s = 1; s <= 4; ++s) belegt += desk.FTPSpread.zelle(z, s) == "x";
-  EXPECT_EQ(belegt, 12);
-  for (int z = 2; z <= 3; ++z)
-    for (int s = 2; s <= 3; ++s) EXPECT_EQ(desk.FTPSpread.zelle(z, s), "");
-}
-
-TEST_F(FtpServerTest, CopyHasTabsBetweenCellsAndCarriageReturnsBetweenRows) {
-  desk.FTPSpreadText(1, 1, "K17");
-  desk.FTPSpreadText(1, 2, "Kühlhaus 3");
-  desk.FTPSpreadText(2, 2, "x");
-  waehle(1, 1, 2, 2);
-  EXPECT_EQ(desk.FTPSpreadcopy(), "K17\tKühlhaus 3\r\tx");
-}
-
-TEST_F(FtpServerTest, SelectionDrawnBackwardsIsTheSame) {
-  desk.FTPSpreadText(1, 1, "a");
-  desk.FTPSpreadText(2, 2, "b");
-  waehle(2, 2, 1, 1);
-  EXPECT_EQ(desk.FTPSpreadcopy(), "a\t\r\tb");
-  desk.FTPSpreadpaste("c\td");
-  EXPECT_EQ(desk.FTPSpread.zelle(1, 1), "c");
-  EXPECT_EQ(desk.FTPSpread.zelle(1, 2), "d");
-  desk.FTPSpreadDelete();
-  EXPECT_TRUE(desk.FTPSpread.ist_leer(1));
-  EXPECT_TRUE(desk.FTPSpread.ist_leer(2));
-}
-
-TEST_F(FtpServerTest, PasteBeginsAtTheSelectionsFirstCell) {
-  desk.FTPSpreadText(4, 4, "kept");
-  waehle(3, 2, 3, 2);
-  desk.FTPSpreadpaste("a\tb\rc\td");
-  EXPECT_EQ(desk.FTPSpread.zelle(3, 2), "a");
-  EXPECT_EQ(desk.FTPSpread.zelle(3, 3), "b");
-  EXPECT_EQ(desk.FTPSpread.zelle(4, 2), "c");
-  EXPECT_EQ(desk.FTPSpread.zelle(4, 3), "d");
-  EXPECT_EQ(desk.FTPSpread.zelle(4, 4), "kept");
-  EXPECT_EQ(dialog.texte, Zeilen{});
-}
-
-TEST_F(FtpServerTest, SingleCellFillsTheSelection) {
-  waehle(1, 1, 3, 2);
-  desk.FTPSpreadpaste("x\r\n");
-  for (int z = 1; z <= 3; ++z)
-    for (int s = 1; s <= 2; ++s) EXPECT_EQ(desk.FTPSpread.zelle(z, s), "x");
-  EXPECT_EQ(desk.FTPSpread.zelle(1, 3), "");
-  EXPECT_EQ(desk.FTPSpread.zelle(4, 1), "");
-}
-
-TEST_F(FtpServerTest, EmptyCellAtTheEndOfACopyIsPastedToo) {
-  desk.FTPSpreadText(1, 1, "a");
-  waehle(1, 1, 2, 1);
-  const std::string kopie = desk.FTPSpreadcopy();
-  desk.FTPSpreadText(6, 1, "old");
-  waehle(5, 1, 7, 1);
-  desk.FTPSpreadpaste(kopie);
-  EXPECT_EQ(desk.FTPSpread.zelle(5, 1), "a");
-  EXPECT_EQ(desk.FTPSpread.zelle(6, 1), "");
-  EXPECT_EQ(desk.FTPSpread.zelle(7, 1), "");
-}
-
-TEST_F(FtpServerTest, CellsOutsideTheTableAreCounted) {
-  waehle(100, 99, 100, 99);
-  desk.FTPSpreadpaste("a\tb\tc\rd\te\tf");
-  EXPECT_EQ(desk.FTPSpread.zelle(100, 99), "a");
-  EXPECT_EQ(desk.FTPSpread.zelle(100, 100), "b");
-  ASSERT_EQ(meldungen.zeilen().size(), 1U);
-  EXPECT_TRUE(gemeldet("4"));
-}
-
-TEST_F(FtpServerTest, EmptyClipboardGivesAMessage) {
-  desk.FTPSpreadText(1, 1, "kept");
-  desk.FTPSpreadpaste("");
-  EXPECT_EQ(dialog.texte, Zeilen{"No Data or Data Limit reached."});
-  EXPECT_EQ(desk.FTPSpread.zelle(1, 1), "kept");
-}
-
-TEST_F(FtpServerTest, CopiedPlantIsTheSameElsewhere) {
-  const Zeilen werte = {"K17", "a\tb", "c\r\nd", "\"e\"", "", "f;g"};
-  for (int s = 1; s <= 6; ++s) desk.FTPSpreadText(1, s, werte[static_cast<std::size_t>(s - 1)]);
-  waehle(1, 1, 1, 100);
-  const std::string ablage_text = desk.FTPSpreadcopy();
-  waehle(7, 1, 7, 1);
-  desk.FTPSpreadpaste(ablage_text);
-  for (int s = 1; s <= 100; ++s)
-    EXPECT_EQ(desk.FTPSpread.zelle(7, s), desk.FTPSpread.zelle(1, s)) << s;
 }
