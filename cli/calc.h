@@ -92,6 +92,7 @@ std::span<const Operation> Klimaoperationen();
 std::span<const Operation> Heizoperationen();
 std::span<const Operation> Soleoperationen();
 std::span<const Operation> Messoperationen();
+std::span<const Operation> Monitoroperationen();
 std::span<const Operation> Standoperationen();
 
 /// A column of a refrigerant table by its name.

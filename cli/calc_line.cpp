@@ -18,7 +18,7 @@ const Operation* finde(std::string_view name) {
   for (const auto& operationen :
        {Grundoperationen(), Stoffoperationen(), Kreisoperationen(), Logphoperationen(),
         Katalogoperationen(), Klimaoperationen(), Heizoperationen(), Soleoperationen(),
-        Messoperationen(), Standoperationen()}) {
+        Messoperationen(), Monitoroperationen(), Standoperationen()}) {
     const auto op = std::ranges::find(operationen, name, &Operation::name);
     if (op != operationen.end()) return &*op;
   }
