@@ -44,6 +44,7 @@ void befehle_anmelden(CLI::App& app, Sitzung& sitzung) {
   import_anmelden(app, sitzung);
   logger_anmelden(app, sitzung);
   measurement_anmelden(app, sitzung);
+  monitor_anmelden(app, sitzung);
   brine_anmelden(app, sitzung);
   calc_anmelden(app, sitzung);
 }
@@ -64,7 +65,7 @@ int ausfuehren(int argc, char** argv) {
   Sitzung sitzung(argc > 0 ? argv[0] : "");
   CLI::App app(
       "Simulates refrigeration plants and judges real ones: annual energy, state points, climate, "
-      "refrigerants, measurements.",
+      "refrigerants, measurements, remote monitoring.",
       "polarkreis-cli");
   app.fallthrough();
   app.require_subcommand(1);

@@ -70,6 +70,7 @@ void diagnose_anmelden(CLI::App& app, Sitzung& sitzung);
 void import_anmelden(CLI::App& app, Sitzung& sitzung);
 void logger_anmelden(CLI::App& app, Sitzung& sitzung);
 void measurement_anmelden(CLI::App& app, Sitzung& sitzung);
+void monitor_anmelden(CLI::App& app, Sitzung& sitzung);
 void brine_anmelden(CLI::App& app, Sitzung& sitzung);
 void calc_anmelden(CLI::App& app, Sitzung& sitzung);
 

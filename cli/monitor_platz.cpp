@@ -1,0 +1,105 @@
+#include "monitor_platz.h"
+
+#include <CLI/CLI.hpp>
+
+#include "konsole.h"
+#include "projektwahl.h"
+#include "shell/text.h"
+
+namespace polarkreis::cli {
+
+namespace {
+
+std::string in_Zeile(int zeile) {
+  return "row " + std::to_string(zeile);
+}
+
+// It names a folder and files, here and on the server.
+void pruefe_Dateiname(const std::string& id) {
+  if (id == "." || id == ".." || id.find_first_of("/\\") != std::string::npos)
+    throw Abbruch("The ID \"" + id +
+                  "\" can't be given to a plant: it becomes the name of a folder and of files on "
+                  "the server, so \"/\", \"\\\", \".\" and \"..\" are out.");
+}
+
+}  // namespace
+
+std::string monitor_id(std::string_view text) {
+  const std::string id = als_utf8(std::string(getrimmt(text)));
+  if (id.empty()) throw CLI::ValidationError("ID", "the ID of a plant must not be blank");
+  if (sichtbar(id) != id)
+    throw CLI::ValidationError("ID", "\"" + sichtbar(id) + "\" holds control characters");
+  return id;
+}
+
+Monitorplatz::Monitorplatz(Sitzung& sitzung)
+    : p(sitzung.programm()), pult(p.ablage, p.captions, p.dialog, klient) {
+  pult.Oeffnen();
+  pult.Activate();
+}
+
+Monitorplatz::~Monitorplatz() {
+  if (pult.offen) pult.Command3D2();
+}
+
+void Monitorplatz::mehrfach_melden(const std::string& id, int zeile) const {
+  std::string weitere;
+  for (int z = zeile + 1; z <= Register::Zeilen; ++z)
+    if (getrimmt(pult.FTPSpread.zelle(z, Registerspalte::ID)) == id)
+      weitere += (weitere.empty() ? "" : ", ") + std::to_string(z);
+  if (!weitere.empty())
+    melde("The ID \"" + id + "\" stands in several rows; " + in_Zeile(zeile) +
+          " counts. The others: " + weitere + ".");
+}
+
+int Monitorplatz::waehle(const std::string& id) {
+  const int zeile = pult.FTPSpread.suche(id);
+  if (zeile == 0)
+    throw Abbruch("The register has no plant with the ID \"" + id +
+                  "\"; \"polarkreis-cli monitor list\" lists them.");
+  mehrfach_melden(id, zeile);
+  pult.FTPSpread.ActiveRow = zeile;
+  return zeile;
+}
+
+int Monitorplatz::waehle_oder_neu(const std::string& id) {
+  if (pult.FTPSpread.suche(id) > 0) return waehle(id);
+  pruefe_Dateiname(id);
+  const int zeile = pult.FTPSpread.freie_Zeile();
+  if (zeile == 0)
+    throw Abbruch("The register is full: all of its " + std::to_string(Register::Zeilen) +
+                  " rows have an ID. Remove a plant with \"polarkreis-cli monitor remove ID\".");
+  melde("A new plant with the ID \"" + id + "\" is made in " + in_Zeile(zeile) + "." +
+        (pult.FTPSpread.ist_leer(zeile)
+             ? ""
+             : " The row had no ID, but held other texts: they are kept, see \"monitor show\"."));
+  pult.FTPSpreadText(zeile, static_cast<int>(Registerspalte::ID), id);
+  pult.FTPSpread.ActiveRow = zeile;
+  return zeile;
+}
+
+void Monitorplatz::pruefe_neue_ID(const std::string& alt, const std::string& neu) const {
+  const int andere = pult.FTPSpread.suche(neu);
+  if (andere == 0) return pruefe_Dateiname(neu);
+  if (andere != pult.FTPSpread.suche(alt))
+    throw Abbruch("The ID \"" + neu + "\" is taken: " + in_Zeile(andere) +
+                  " has it. Nothing was changed.");
+}
+
+void Monitorplatz::pruefe_speicherbar(bool erzwingen) const {
+  if (erzwingen || pult.FTPSpread.ueberzaehlig == 0) return;
+  throw Abbruch("The register's file \"" + p.ablage.pfad(Register::Datei) + "\" has " +
+                std::to_string(pult.FTPSpread.ueberzaehlig) +
+                " lines behind its 10,000 cells, and a save would drop them. Shorten the file, or "
+                "put a copy of it away and repeat the command with --force.");
+}
+
+std::string Monitorplatz::speicherfehler() const {
+  return grund(p.ablage, "The register could not be written.");
+}
+
+void Monitorplatz::speichern() {
+  if (!pult.SpeichButt()) throw Abbruch(speicherfehler());
+}
+
+}  // namespace polarkreis::cli
