@@ -27,6 +27,7 @@ def options():
     parser.add_argument("--raw", action="store_true", help="store what comes over the wire, whatever its type")
     parser.add_argument("--answer", nargs=2, action="append", default=[], metavar=("VERB", "REPLY"),
                         help="give this reply to a command instead of carrying it out")
+    parser.add_argument("--mute", action="append", default=[], metavar="VERB", help="never answer this command")
     parser.add_argument("--stall", action="store_true", help="accept connections and never say a word")
     parser.add_argument("--stall-after", type=int, metavar="N", help="stop after N bytes of a transfer")
     parser.add_argument("--die-after", type=int, metavar="N",
@@ -100,6 +101,8 @@ class Control(FTPHandler):
 
     def pre_process_command(self, line, cmd, arg):
         self.protocol.write(os.fsencode(line + "\n"))
+        if cmd in self.options.mute:
+            return
         for verb, reply in self.options.answer:
             if verb == cmd:
                 self.respond(reply)
