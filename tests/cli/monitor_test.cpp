@@ -338,6 +338,7 @@ TEST_F(Monitor, RulesReadAsSentences) {
   Anlagenregister r = zwei_Anlagen();
   r(2, 41) = "c1=tin1;ro=-;c2=tout1;cm=2;vl=0,5;ti=;nt=1;en=0;";
   r(2, 42) = kLeereRegel;
+  r(2, 43) = "c1=;ro=;c2=;cm=3;vl=;ti=;nt=3;en=1;";
   r.schreib(daten);
   const Antwort a = rufe({"rules", "K17"});
   EXPECT_EQ(a.status, 0) << a.fehler;
@@ -358,6 +359,7 @@ TEST_F(Monitor, RulesReadAsSentences) {
   EXPECT_EQ(erste["packed"], kRegel);
   EXPECT_EQ(erste["empty"], false);
   EXPECT_EQ(regeln["rules"][2]["empty"], true);
+  EXPECT_EQ(regeln["rules"][3]["empty"], false) << "it is ON";
   EXPECT_EQ(regeln["rules"][15]["packed"], "");
   EXPECT_EQ(registertext(), r.text());
 }
