@@ -34,9 +34,7 @@ Antwort packen(Rechenstand& r, const Argumente& a) {
 }
 
 Antwort lesen(Rechenstand& r, const Argumente& a) {
-  Alarmregel regel;
-  for (const std::string& item : Regel_teilen(a.text("text")))
-    Item_uebernehmen(r.captions, item, regel);
+  const Alarmregel regel = Regel_entpacken(r.captions, a.text("text"));
   Json felder;
   for (int z = 1; z <= Regelzeilen; ++z) {
     const auto zeile = static_cast<Regelzeile>(z);

@@ -122,7 +122,7 @@ std::string feldwert(const Captions& captions, Registerspalte spalte, const Zuwe
 
 int serverwahl(const Zuweisung& z) {
   const std::optional<int> wahl = ganze_aus(z.wert);
-  if (wahl != 1 && wahl != 2)
+  if (wahl != Standardserver && wahl != eigener_Server)
     falsch("server can't be " + zitat(z.wert) +
            ": 1 is the default FTP server, 2 the plant's own (ip, dr, us, pw)");
   return *wahl;
@@ -197,7 +197,7 @@ void Einstellaenderung::anwenden(ftp_server& pult) const {
   for (const auto& [feld, wert] : felder) pult.*feld.text = wert;
   if (id) pult.ID_Label = *id;
   if (!server) return;
-  pult.Option2 = *server == 2;
+  pult.Option2 = *server == eigener_Server;
   pult.Option1 = !pult.Option2;
 }
 

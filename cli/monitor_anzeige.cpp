@@ -10,8 +10,6 @@ namespace polarkreis::cli {
 
 namespace {
 
-constexpr int kStandardserver = 1, kEigener = 2;
-
 /// What a field of the settings means to people.
 struct Bezeichnung {
   Registerspalte spalte;
@@ -48,33 +46,21 @@ std::string feldtext(const ftp_server& pult, const ftp_server::Feld& feld, bool 
 }
 
 std::string wahltext(int wahl) {
-  if (wahl == kStandardserver) return "1, the default FTP server";
-  if (wahl == kEigener) return "2, the plant's own FTP server";
+  if (wahl == Standardserver) return "1, the default FTP server";
+  if (wahl == eigener_Server) return "2, the plant's own FTP server";
   return "none: transfers have no account";
 }
 
 int aktive_Regeln(const ftp_server& pult, const Captions& captions, int zeile) {
   int anzahl = 0;
   for (int i = 1; i <= Regelzahl; ++i) {
-    const Alarmregel regel = Regel_aus(captions, pult.FTPSpread.zelle(zeile, Regelspalte(i)));
+    const Alarmregel regel = Regel_entpacken(captions, pult.FTPSpread.zelle(zeile, Regelspalte(i)));
     if (regel[Regelzeile::en] == "ON") ++anzahl;
   }
   return anzahl;
 }
 
 }  // namespace
-
-int Serverwahl(const Register& tabelle, int zeile) {
-  const double wahl = Wert(tabelle.zelle(zeile, Registerspalte::Server_Wahl));
-  if (wahl == kStandardserver) return kStandardserver;
-  return wahl == kEigener ? kEigener : 0;
-}
-
-Alarmregel Regel_aus(const Captions& captions, std::string_view gepackt) {
-  Alarmregel regel;
-  for (const std::string& item : Regel_teilen(gepackt)) Item_uebernehmen(captions, item, regel);
-  return regel;
-}
 
 bool Regel_leer(const Alarmregel& regel) {
   const auto leer = [&](Regelzeile z) { return getrimmt(regel[z]).empty(); };
@@ -118,7 +104,7 @@ void drucke_Liste(ftp_server& pult, const Captions& captions) {
   for (int zeile : belegte_Zeilen(pult.FTPSpread)) {
     pult.FTPSpread.ActiveRow = zeile;
     pult.Tab_Select(1);
-    const int wahl = Serverwahl(pult.FTPSpread, zeile);
+    const int wahl = pult.FTPSpread.Serverwahl(zeile);
     tabelle.zeilen.push_back({std::to_string(zeile), pult.ID_Label, pult.nm_edit, pult.tw_edit,
                               pult.fn_edit, pult.nt_edit, wahl == 0 ? "" : std::to_string(wahl),
                               std::to_string(aktive_Regeln(pult, captions, zeile))});
@@ -138,8 +124,7 @@ void drucke_Einstellungen(const ftp_server& pult, bool passwort) {
   for (const ftp_server::Feld& feld : ftp_server::Felder())
     tabelle.zeilen.push_back(
         {std::string(feld.schluessel), bezeichnung(feld.spalte), feldtext(pult, feld, passwort)});
-  tabelle.zeilen.push_back(
-      {"server", "Server choice", wahltext(Serverwahl(pult.FTPSpread, zeile))});
+  tabelle.zeilen.push_back({"server", "Server choice", wahltext(pult.FTPSpread.Serverwahl(zeile))});
   const Uebertragung& ftp = pult.ftp;
   tabelle.zeilen.push_back(
       {"", "Transfers go to",
@@ -163,7 +148,7 @@ Json Liste_json(ftp_server& pult, const Captions& captions) {
   for (int zeile : belegte_Zeilen(pult.FTPSpread)) {
     pult.FTPSpread.ActiveRow = zeile;
     pult.Tab_Select(1);
-    const int wahl = Serverwahl(pult.FTPSpread, zeile);
+    const int wahl = pult.FTPSpread.Serverwahl(zeile);
     liste.push_back({{"row", zeile},
                      {"id", pult.ID_Label},
                      {"nm", pult.nm_edit},
@@ -178,7 +163,7 @@ Json Liste_json(ftp_server& pult, const Captions& captions) {
 
 Json Einstellungen_json(const ftp_server& pult, const Captions& captions, bool passwort) {
   const int zeile = pult.FTPSpread.aktive_Zeile();
-  const int wahl = Serverwahl(pult.FTPSpread, zeile);
+  const int wahl = pult.FTPSpread.Serverwahl(zeile);
   Json json{{"row", zeile}, {"id", pult.ID_Label}};
   for (const ftp_server::Feld& feld : ftp_server::Felder())
     json[std::string(feld.schluessel)] = feldtext(pult, feld, passwort);

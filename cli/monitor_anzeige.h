@@ -13,10 +13,6 @@ namespace polarkreis::cli {
 /// What stands in the place of a password.
 inline constexpr std::string_view kVerborgen = "********";
 
-/// The plant's server choice as its register row has it: 1 or 2, or 0 for neither.
-int Serverwahl(const Register& tabelle, int zeile);
-/// A packed rule read on its own.
-Alarmregel Regel_aus(const Captions& captions, std::string_view gepackt);
 /// True for a rule in which nothing was filled in, also where it was stored like that.
 bool Regel_leer(const Alarmregel& regel);
 /// The rule as a sentence, as "tc > 45 for 10 min: SMS + E-Mail".

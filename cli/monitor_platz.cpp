@@ -22,6 +22,17 @@ void pruefe_Dateiname(const std::string& id) {
                   "the server, so \"/\", \"\\\", \".\" and \"..\" are out.");
 }
 
+// The local copies of two such plants would be one file.
+void pruefe_Schreibweise(const Register& tabelle, const std::string& id, int eigene) {
+  for (int zeile = 1; zeile <= Register::Zeilen; ++zeile) {
+    const std::string_view andere = getrimmt(tabelle.zelle(zeile, Registerspalte::ID));
+    if (zeile != eigene && gleich(andere, id))
+      throw Abbruch("The ID \"" + id + "\" differs from \"" + std::string(andere) + "\" in " +
+                    in_Zeile(zeile) +
+                    " by capitals only. Use that one, or choose an ID that is not so alike.");
+  }
+}
+
 }  // namespace
 
 std::string monitor_id(std::string_view text) {
@@ -65,6 +76,7 @@ int Monitorplatz::waehle(const std::string& id) {
 int Monitorplatz::waehle_oder_neu(const std::string& id) {
   if (pult.FTPSpread.suche(id) > 0) return waehle(id);
   pruefe_Dateiname(id);
+  pruefe_Schreibweise(pult.FTPSpread, id, 0);
   const int zeile = pult.FTPSpread.freie_Zeile();
   if (zeile == 0)
     throw Abbruch("The register is full: all of its " + std::to_string(Register::Zeilen) +
@@ -79,9 +91,12 @@ int Monitorplatz::waehle_oder_neu(const std::string& id) {
 }
 
 void Monitorplatz::pruefe_neue_ID(const std::string& alt, const std::string& neu) const {
-  const int andere = pult.FTPSpread.suche(neu);
-  if (andere == 0) return pruefe_Dateiname(neu);
-  if (andere != pult.FTPSpread.suche(alt))
+  const int andere = pult.FTPSpread.suche(neu), eigene = pult.FTPSpread.suche(alt);
+  if (andere == 0) {
+    pruefe_Dateiname(neu);
+    return pruefe_Schreibweise(pult.FTPSpread, neu, eigene);
+  }
+  if (andere != eigene)
     throw Abbruch("The ID \"" + neu + "\" is taken: " + in_Zeile(andere) +
                   " has it. Nothing was changed.");
 }

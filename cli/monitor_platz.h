@@ -39,10 +39,11 @@ class Monitorplatz {
   /// first counts. Throws `Abbruch` where it stands in none.
   int waehle(const std::string& id);
   /// The same; an unknown ID takes the first row without one, and that is told. Throws `Abbruch`
-  /// for a full register and for an ID that can be no folder's name.
+  /// for a full register, for an ID that can be no folder's name and for one that differs from
+  /// another's by capitals only.
   int waehle_oder_neu(const std::string& id);
   /// Throws `Abbruch` if the plant `alt`, which may be a new one, can't get the ID `neu`: another
-  /// row has it, or it can be no folder's name.
+  /// row has it or one like it, or it can be no folder's name.
   void pruefe_neue_ID(const std::string& alt, const std::string& neu) const;
   /// Throws `Abbruch` if a save would drop lines of the register's file, unless it is forced.
   void pruefe_speicherbar(bool erzwingen) const;

@@ -152,6 +152,12 @@ Alarmtext alerts_find(const Captions& captions, std::string_view Zeile) {
   return {};
 }
 
+Alarmregel Regel_entpacken(const Captions& captions, std::string_view gepackt) {
+  Alarmregel regel;
+  for (const std::string& item : Regel_teilen(gepackt)) Item_uebernehmen(captions, item, regel);
+  return regel;
+}
+
 void Item_uebernehmen(const Captions& captions, std::string_view item, Alarmregel& regel) {
   const Alarmtext gefunden = alerts_find(captions, item);
   if (gefunden.Zeile != 0) regel[static_cast<Regelzeile>(gefunden.Zeile)] = gefunden.Text;

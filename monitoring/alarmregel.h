@@ -63,6 +63,8 @@ struct Alarmtext {
 /// ";". `en` 1 is "ON", all else "OFF"; `cm` outside 1 to 5 is ">"; `nt` outside 0 to 3 is
 /// "SMS + E-Mail". An unknown key gives an empty text.
 Alarmtext alerts_find(const Captions& captions, std::string_view Zeile);
+/// The fields of a packed rule; those that it doesn't name are empty.
+Alarmregel Regel_entpacken(const Captions& captions, std::string_view gepackt);
 /// Puts an item's text into its field of the rule; an item with an unknown key changes nothing.
 void Item_uebernehmen(const Captions& captions, std::string_view item, Alarmregel& regel);
 

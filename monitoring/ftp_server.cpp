@@ -89,6 +89,8 @@ void ftp_server::start_caption() {
 }
 
 void ftp_server::Tab_Select(int Seite) {
+  constexpr int kSeiten = 3;
+  if (Seite < 1 || Seite > kSeiten) return;
   HideComponents();
   SSTab1 = Seite;
   switch (static_cast<polarkreis::Seite>(Seite)) {

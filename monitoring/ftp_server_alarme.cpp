@@ -46,11 +46,9 @@ void ftp_server::al_download() {
 // then give to this one.
 void ftp_server::Regeln_fuellen() {
   const int zeile = FTPSpread.aktive_Zeile();
-  AlertSpread = {};
   for (std::size_t i = 0; i < AlertSpread.size(); ++i)
-    for (const std::string& item :
-         Regel_teilen(FTPSpread.zelle(zeile, Regelspalte(static_cast<int>(i) + 1))))
-      Item_uebernehmen(captions_, item, AlertSpread[i]);
+    AlertSpread[i] =
+        Regel_entpacken(captions_, FTPSpread.zelle(zeile, Regelspalte(static_cast<int>(i) + 1)));
 }
 
 void ftp_server::Regeln_packen(bool ins_Register) {

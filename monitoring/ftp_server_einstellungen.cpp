@@ -5,22 +5,8 @@
 #include "monitoring/textzeilen.h"
 #include "shell/items.h"
 #include "shell/text.h"
-#include "shell/wert.h"
 
 namespace polarkreis {
-
-namespace {
-
-constexpr int kStandard = 1, kEigener = 2;
-
-/// The server choice as its column tells it; 0 for a text that is no number.
-int Serverwahl(const Register& tabelle) {
-  const double zahl = Wert(tabelle.zelle(tabelle.aktive_Zeile(), Registerspalte::Server_Wahl));
-  if (zahl == kStandard) return kStandard;
-  return zahl == kEigener ? kEigener : 0;
-}
-
-}  // namespace
 
 std::span<const ftp_server::Feld> ftp_server::Felder() {
   using S = Registerspalte;
@@ -68,7 +54,7 @@ void ftp_server::Felder_fuellen() {
   for (const Feld& feld : Felder())
     this->*feld.text = getrimmt(FTPSpread.zelle(zeile, feld.spalte));
   nt_edit = Flag_find(captions_, Flag_find(captions_, nt_edit, 1), 2);
-  Option2 = Serverwahl(FTPSpread) == kEigener;
+  Option2 = FTPSpread.Serverwahl(zeile) == eigener_Server;
   Option1 = !Option2;
 }
 
@@ -77,19 +63,19 @@ void ftp_server::Felder_zurueck() {
   FTPSpread.setze(zeile, Registerspalte::ID, ID_Label);
   for (const Feld& feld : Felder()) FTPSpread.setze(zeile, feld.spalte, this->*feld.text);
   FTPSpread.setze(zeile, Registerspalte::Server_Wahl,
-                  std::to_string(Option2 ? kEigener : kStandard));
+                  std::to_string(Option2 ? eigener_Server : Standardserver));
 }
 
 // The user's own server never takes a transfer: it is only told to the monitoring side.
 void ftp_server::Server_settings() {
-  ftp.ID = getrimmt(FTPSpread.zelle(FTPSpread.aktive_Zeile(), Registerspalte::ID));
-  ftp.Server_Wahl = Serverwahl(FTPSpread);
-  if (ftp.Server_Wahl == kStandard || ftp.Server_Wahl == kEigener)
-    ftp.setze_Konto(Standardkonto_lesen(ablage_));
+  const int zeile = FTPSpread.aktive_Zeile();
+  ftp.ID = getrimmt(FTPSpread.zelle(zeile, Registerspalte::ID));
+  ftp.Server_Wahl = FTPSpread.Serverwahl(zeile);
+  if (ftp.Server_Wahl != 0) ftp.setze_Konto(Standardkonto_lesen(ablage_));
 }
 
 std::string ftp_server::Einstellsatz() const {
-  const bool eigener = ftp.Server_Wahl == kEigener;
+  const bool eigener = ftp.Server_Wahl == eigener_Server;
   std::string satz;
   for (const Feld& feld : Felder()) {
     std::string wert = this->*feld.text;

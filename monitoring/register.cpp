@@ -6,6 +6,7 @@
 #include "monitoring/textzeilen.h"
 #include "shell/items.h"
 #include "shell/text.h"
+#include "shell/wert.h"
 
 namespace polarkreis {
 
@@ -40,6 +41,12 @@ const std::string& Register::zelle(int zeile, int spalte) const {
 // Foreign bytes would make the whole file be read as another character set.
 void Register::setze(int zeile, int spalte, std::string text) {
   if (innen(zeile, spalte)) zellen_[ort(zeile, spalte)] = als_utf8(std::move(text));
+}
+
+int Register::Serverwahl(int zeile) const {
+  const double zahl = Wert(zelle(zeile, Registerspalte::Server_Wahl));
+  if (zahl == Standardserver) return Standardserver;
+  return zahl == eigener_Server ? eigener_Server : 0;
 }
 
 int Register::suche(std::string_view ID) const {

@@ -38,6 +38,9 @@ enum class Registerspalte {
 
 inline constexpr int Regelzahl = 16;
 
+/// Server choices: the default FTP server, or the plant's own.
+inline constexpr int Standardserver = 1, eigener_Server = 2;
+
 /// The column of rule i, from 1.
 inline constexpr int Regelspalte(int i) {
   return static_cast<int>(Registerspalte::erste_Regel) + i - 1;
@@ -66,6 +69,9 @@ class Register {
   void setze(int zeile, Registerspalte spalte, std::string text) {
     setze(zeile, static_cast<int>(spalte), std::move(text));
   }
+
+  /// The server choice of a row, 1 or 2; 0 for any other text.
+  int Serverwahl(int zeile) const;
 
   /// The first row whose ID is this one, both trimmed; 0 if there is none. A blank ID is no one's.
   int suche(std::string_view ID) const;

@@ -35,7 +35,6 @@ std::string Textzeilen::lies() {
 }
 
 bool Textzeilen::bricht_ab(std::size_t ende) const {
-  if (ende + 1 <= offen_bis_) return true;
   if (eigen_) return false;
   const std::string_view naechste =
       ohne_Raender(text_.substr(ende + 1, zeilenende(ende + 1) - ende - 1));
@@ -43,16 +42,13 @@ bool Textzeilen::bricht_ab(std::size_t ende) const {
          naechste.find_first_not_of(kAnfuehrung) == std::string_view::npos;
 }
 
-// Goes on to the quote that closes the text and has nothing but blanks behind it. What a line start
-// inside an open text leads to depends on nothing before it: where one search failed, no other need
-// go, so that a file full of broken quotes takes no longer than a whole one.
+// Goes on to the quote that closes the text and has nothing but blanks behind it. A file full of
+// broken quotes takes no longer than a whole one: the next line from which such a search could go
+// on ends this one.
 bool Textzeilen::lies_in_Anfuehrung(std::string& target) {
   std::size_t i = ort_;
   for (; i < text_.size(); ++i) {
-    if (text_[i] == '\n' && bricht_ab(i)) {
-      offen_bis_ = std::max(offen_bis_, i);
-      return false;
-    }
+    if (text_[i] == '\n' && bricht_ab(i)) return false;
     if (text_[i] != kAnfuehrung) {
       target += text_[i];
     } else if (i + 1 < text_.size() && text_[i + 1] == kAnfuehrung) {
@@ -62,13 +58,11 @@ bool Textzeilen::lies_in_Anfuehrung(std::string& target) {
       break;
     }
   }
-  const std::size_t ende = i < text_.size() ? zeilenende(i) : i;
-  if (i < text_.size() && ohne_Raender(text_.substr(i + 1, ende - i - 1)).empty()) {
-    ort_ = std::min(ende + 1, text_.size());
-    return true;
-  }
-  offen_bis_ = std::max(offen_bis_, i);
-  return false;
+  if (i >= text_.size()) return false;
+  const std::size_t ende = zeilenende(i);
+  if (!ohne_Raender(text_.substr(i + 1, ende - i - 1)).empty()) return false;
+  ort_ = std::min(ende + 1, text_.size());
+  return true;
 }
 
 std::string Textzeilen::lies_zeile() {

@@ -8,9 +8,10 @@ namespace polarkreis {
 
 /// Takes one quoted text a line off the register's and the plants' files, which other hands may
 /// have written. A text that is quoted as this program does it (a quote inside twice, line ends
-/// kept) may go over several lines. Any other line is one text by itself: without the quotes at its
-/// two ends, and with those inside as they stand, so that a quote too many or too few spoils no
-/// other line. Blanks and tabs around a line are dropped; lines end with LF or CR LF.
+/// kept) may go over several lines. Any other line is one text by itself: where it begins with a
+/// quote, without that and the one at its end, and with those inside as they stand, so that a quote
+/// too many or too few spoils no other line. Blanks and tabs around a line are dropped; lines end
+/// with LF or CR LF.
 class Textzeilen {
  public:
   /// `eigen`: the whole text was written by this program, and its quotes count. Otherwise a line of
@@ -27,13 +28,12 @@ class Textzeilen {
  private:
   bool lies_in_Anfuehrung(std::string& target);
   std::string lies_zeile();
-  bool bricht_ab(std::size_t zeilenende) const;
+  bool bricht_ab(std::size_t ende) const;
   std::size_t zeilenende(std::size_t von) const;
 
   std::string_view text_;
   bool eigen_;
   std::size_t ort_ = 0;
-  std::size_t offen_bis_ = 0;  // line starts up to here: a text that is open there never closes
   int gebrochen_ = 0;
 };
 

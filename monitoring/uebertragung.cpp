@@ -7,6 +7,7 @@ namespace polarkreis {
 namespace {
 
 bool ist_Dateiname(std::string_view name) {
+  if (name == "." || name == "..") return false;
   for (char c : name)
     if (c == '/' || c == '\\' || static_cast<unsigned char>(c) < ' ') return false;
   return true;
@@ -57,8 +58,9 @@ Uebertragung::Ergebnis Uebertragung::Beginn(Ladeweg weg, const std::string& Date
   Ergebnis ergebnis{Dateiname, "/" + FTP_Ordner + "/" + ID + "/" + Dateiname, weg, false, {}};
   if (!ist_Dateiname(Dateiname) || !ist_Dateiname(ID))
     ergebnis.grund =
-        "The ID is the name of a folder and of files: give the plant one without \"/\", \"\\\" and "
-        "control characters.";
+        "The ID is the name of a folder and of files: give the plant one that isn't \".\" or "
+        "\"..\" "
+        "and holds no \"/\", \"\\\" or control characters.";
   return ergebnis;
 }
 

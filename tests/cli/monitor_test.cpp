@@ -131,6 +131,20 @@ TEST_F(Monitor, AForeignIDWithASlashCanBeShownButNotMade) {
   EXPECT_EQ(registertext(), r.text());
 }
 
+TEST_F(Monitor, AnIDThatDiffersByCapitalsOnlyIsNotMade) {
+  zwei_Anlagen().schreib(daten);
+  for (const Argumente& argumente :
+       {Argumente{"set", "k17", "nm=x"}, Argumente{"rule", "k9", "1", "en=ON"},
+        Argumente{"set", "K17", "id=k9"}}) {
+    const Antwort a = rufe(argumente);
+    EXPECT_EQ(a.status, 1) << a.fehler;
+    EXPECT_TRUE(enthaelt(a.fehler, "by capitals only")) << a.fehler;
+  }
+  EXPECT_EQ(registertext(), zwei_Anlagen().text());
+  EXPECT_EQ(rufe({"set", "K17", "id=k17"}).status, 0);
+  EXPECT_EQ(json_von({"show", "k17"})["row"], 2);
+}
+
 TEST_F(Monitor, ControlCharactersOfARegisterDontReachTheTerminal) {
   Anlagenregister r = zwei_Anlagen();
   r(2, 2) = "\x1b[31mred";
