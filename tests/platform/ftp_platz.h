@@ -35,7 +35,8 @@ struct Ftp : testing::Test {
     std::filesystem::create_directories(server.wurzel().pfad(kOrdner));
   }
 
-  /// Uploads over a connection of its own. Whether it worked; a reason holds no part of the account.
+  /// Uploads over a connection of its own. Whether it worked; a reason holds no part of the
+  /// account.
   bool hoch(polarkreis::FtpKlient& klient, const FtpGegenstelle& server, const std::string& inhalt,
             const std::string& entfernt = "/" + kEinstellung,
             int modus = polarkreis::FtpKlient::ASCII) const {

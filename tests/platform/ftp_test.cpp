@@ -23,7 +23,7 @@ TEST_F(Ftp, LineEndsGoOutAsOneCarriageReturnAndLineFeed) {
   ASSERT_TRUE(server.bereit());
   for (const std::string ende : {"\n", "\r\n"}) {
     EXPECT_TRUE(hoch(ftp, server, zeilen(20000, ende), "/a"));
-    EXPECT_EQ(server.wurzel().lies("a"), zeilen(20000, "\r\n"));
+    EXPECT_TRUE(server.wurzel().lies("a") == zeilen(20000, "\r\n"));
   }
   EXPECT_TRUE(hoch(ftp, server, "a\n\nb\r\nc", "/a"));
   EXPECT_EQ(server.wurzel().lies("a"), "a\r\n\r\nb\r\nc");
