@@ -14,12 +14,12 @@ std::string in_Zeile(int zeile) {
   return "row " + std::to_string(zeile);
 }
 
-// It names a folder and files, here and on the server.
+// It names a folder and files, here and on the server, and stands in addresses as it is.
 void pruefe_Dateiname(const std::string& id) {
-  if (id == "." || id == ".." || id.find_first_of("/\\") != std::string::npos)
+  if (id == "." || id == ".." || id.find_first_of("/\\#?%") != std::string::npos)
     throw Abbruch("The ID \"" + id +
                   "\" can't be given to a plant: it becomes the name of a folder and of files on "
-                  "the server, so \"/\", \"\\\", \".\" and \"..\" are out.");
+                  "the server. Choose one without / \\ # ? % that isn't \".\" or \"..\".");
 }
 
 // The local copies of two such plants would be one file.

@@ -17,4 +17,7 @@ done
 "$program" --data . --language ENG import adc "R404A cold store.adc" --settings "logger R404A.json" --out store.fmd >/dev/null
 "$program" --data . --language ENG diagnose store.fmd --settings "logger R404A.json" --yes >/dev/null
 test -s ergDiaG.DAT
-echo "First use: all sample projects calculate, a sample measurement is judged."
+"$program" --data . --language ENG monitor set K17 nm="Cold store" fn=R744 server=1 >/dev/null 2>&1
+"$program" --data . --language ENG monitor show K17 --json >/dev/null
+test -s FMD_M_Global.ini
+echo "First use: all sample projects calculate, a sample measurement is judged, a plant is registered."

@@ -123,7 +123,7 @@ TEST_F(Monitor, AForeignIDWithASlashCanBeShownButNotMade) {
   r(3, 1) = "a/b";
   r.schreib(daten);
   EXPECT_EQ(json_von({"show", "a/b"})["row"], 3);
-  for (const char* id : {"c/d", "c\\d", ".", ".."}) {
+  for (const char* id : {"c/d", "c\\d", ".", "..", "c#d", "c?d", "50%"}) {
     const Antwort a = rufe({"set", id, "nm=x"});
     EXPECT_EQ(a.status, 1) << id;
     EXPECT_TRUE(enthaelt(a.fehler, "name of a folder")) << a.fehler;
