@@ -27,6 +27,7 @@ void zeigen(Sitzung& sitzung, const Monitorwuensche& w) {
   const std::string id = monitor_id(w.id);
   Monitorplatz platz(sitzung);
   platz.waehle(id);
+  platz.melde_unbekannte_Route();
   platz.pult.Tab_Select(1);
   platz.pult.Server_settings();
   if (w.json)
@@ -38,10 +39,11 @@ void zeigen(Sitzung& sitzung, const Monitorwuensche& w) {
 void einstellen(Sitzung& sitzung, const Monitorwuensche& w) {
   const std::string id = monitor_id(w.id);
   const Einstellaenderung aenderung = einstellungen_aus(sitzung.programm().captions, w.aenderungen);
-  Monitorplatz platz(sitzung);
+  Monitorplatz platz(sitzung, true);
   platz.pruefe_speicherbar(w.erzwingen);
   if (aenderung.id) platz.pruefe_neue_ID(id, *aenderung.id);
   const int zeile = platz.waehle_oder_neu(id);
+  platz.melde_unbekannte_Route();
   platz.pult.Tab_Select(1);
   aenderung.anwenden(platz.pult);
   platz.pult.set_speich();
@@ -66,7 +68,7 @@ void regeln_zeigen(Sitzung& sitzung, const Monitorwuensche& w) {
 void regel_einstellen(Sitzung& sitzung, const Monitorwuensche& w) {
   const std::string id = monitor_id(w.id);
   const Regelaenderung aenderung = regel_aus(sitzung.programm().captions, w.aenderungen);
-  Monitorplatz platz(sitzung);
+  Monitorplatz platz(sitzung, true);
   platz.pruefe_speicherbar(w.erzwingen);
   platz.waehle_oder_neu(id);
   platz.pult.Tab_Select(2);
@@ -76,13 +78,14 @@ void regel_einstellen(Sitzung& sitzung, const Monitorwuensche& w) {
   platz.pult.al_speich();
   platz.speichern();
   if (w.json) return drucke(Regel_json(platz.pult, w.regel, gepackte_Regeln(platz.pult)[ort]));
-  sage("Saved: rule " + std::to_string(w.regel) + " of " + id + ", " + regel[Regelzeile::en] +
-       ": " + Regelsatz(regel));
+  sage("Saved: rule " + std::to_string(w.regel) + " of " + id + ", " +
+       (Regel_leer(regel) ? std::string(kLeere_Regel)
+                          : regel[Regelzeile::en] + ": " + Regelsatz(regel)));
 }
 
 void entfernen(Sitzung& sitzung, const Monitorwuensche& w) {
   const std::string id = monitor_id(w.id);
-  Monitorplatz platz(sitzung);
+  Monitorplatz platz(sitzung, true);
   platz.pruefe_speicherbar(w.erzwingen);
   const int zeile = platz.waehle(id);
   platz.pult.FTPSpread_Auswahl = {zeile, 1, zeile, Register::Spalten};

@@ -1,10 +1,10 @@
 #include "monitor_anzeige.h"
 
 #include <algorithm>
+#include <string>
 
 #include "monitoring/route.h"
 #include "shell/text.h"
-#include "shell/wert.h"
 
 namespace polarkreis::cli {
 
@@ -138,7 +138,7 @@ void drucke_Regeln(const ftp_server& pult) {
   for (const Alarmregel& regel : pult.AlertSpread) {
     const bool leer = Regel_leer(regel);
     tabelle.zeilen.push_back({std::to_string(++nummer), leer ? "" : regel[Regelzeile::en],
-                              leer ? "(empty)" : Regelsatz(regel)});
+                              leer ? kLeere_Regel : Regelsatz(regel)});
   }
   drucke(tabelle);
 }
@@ -167,7 +167,7 @@ Json Einstellungen_json(const ftp_server& pult, const Captions& captions, bool p
   Json json{{"row", zeile}, {"id", pult.ID_Label}};
   for (const ftp_server::Feld& feld : ftp_server::Felder())
     json[std::string(feld.schluessel)] = feldtext(pult, feld, passwort);
-  json["nt_number"] = zahl(Wert(Flag_find(captions, pult.nt_edit, 1)));
+  json["nt_number"] = std::stoi(Flag_find(captions, pult.nt_edit, 1));
   json["server_choice"] = wahl == 0 ? Json() : Json(wahl);
   json["transfers"] = {{"host", pult.ftp.FTP_Host}, {"folder", pult.ftp.FTP_Ordner}};
   return json;

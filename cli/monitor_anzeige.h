@@ -15,6 +15,8 @@ inline constexpr std::string_view kVerborgen = "********";
 
 /// True for a rule in which nothing was filled in, also where it was stored like that.
 bool Regel_leer(const Alarmregel& regel);
+/// What stands in the place of its sentence.
+inline constexpr const char* kLeere_Regel = "(empty)";
 /// The rule as a sentence, as "tc > 45 for 10 min: SMS + E-Mail".
 std::string Regelsatz(const Alarmregel& regel);
 /// The rows that hold a setting or a rule.

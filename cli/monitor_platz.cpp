@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "konsole.h"
+#include "monitoring/route.h"
 #include "projektwahl.h"
 #include "shell/text.h"
 
@@ -16,20 +17,25 @@ std::string in_Zeile(int zeile) {
 
 // It names a folder and files, here and on the server, and stands in addresses as it is.
 void pruefe_Dateiname(const std::string& id) {
-  if (id == "." || id == ".." || id.find_first_of("/\\#?%") != std::string::npos)
+  if (id == "." || id == ".." || id.find_first_of("/\\@#?%") != std::string::npos)
     throw Abbruch("The ID \"" + id +
                   "\" can't be given to a plant: it becomes the name of a folder and of files on "
-                  "the server. Choose one without / \\ # ? % that isn't \".\" or \"..\".");
+                  "the server. Choose one without / \\ @ # ? % that isn't \".\" or \"..\".");
+  constexpr std::size_t kLaengster_Name = 255, kAnhang = std::string_view("SETTINGS").size();
+  if (id.size() > kLaengster_Name - kAnhang)
+    throw Abbruch("The ID is too long: it becomes the name of files, and " +
+                  std::to_string(kLaengster_Name - kAnhang) + " bytes is all that they can take.");
 }
 
 // The local copies of two such plants would be one file.
 void pruefe_Schreibweise(const Register& tabelle, const std::string& id, int eigene) {
   for (int zeile = 1; zeile <= Register::Zeilen; ++zeile) {
     const std::string_view andere = getrimmt(tabelle.zelle(zeile, Registerspalte::ID));
-    if (zeile != eigene && gleich(andere, id))
-      throw Abbruch("The ID \"" + id + "\" differs from \"" + std::string(andere) + "\" in " +
-                    in_Zeile(zeile) +
-                    " by capitals only. Use that one, or choose an ID that is not so alike.");
+    if (zeile != eigene && andere != getrimmt(id) && gleich(andere, id))
+      throw Abbruch("The ID \"" + std::string(getrimmt(id)) + "\" differs from \"" +
+                    std::string(andere) + "\" in " + in_Zeile(zeile) +
+                    " by capitals only. Use that one, or give one of them an ID that is not so "
+                    "alike.");
   }
 }
 
@@ -43,10 +49,16 @@ std::string monitor_id(std::string_view text) {
   return id;
 }
 
-Monitorplatz::Monitorplatz(Sitzung& sitzung)
+Monitorplatz::Monitorplatz(Sitzung& sitzung, bool aendert)
     : p(sitzung.programm()), pult(p.ablage, p.captions, p.dialog, klient) {
+  if (aendert)
+    sperre_.emplace(p.ablage.Datenordner,
+                    [] { melde("Another call is changing the register: waiting for its end."); });
   pult.Oeffnen();
   pult.Activate();
+  if (const std::string& hindernis = pult.FTPSpread.hindernis; !hindernis.empty())
+    throw Abbruch("The register \"" + p.ablage.pfad(Register::Datei) +
+                  "\" can't be read: " + hindernis);
 }
 
 Monitorplatz::~Monitorplatz() {
@@ -88,6 +100,30 @@ int Monitorplatz::waehle_oder_neu(const std::string& id) {
   pult.FTPSpreadText(zeile, static_cast<int>(Registerspalte::ID), id);
   pult.FTPSpread.ActiveRow = zeile;
   return zeile;
+}
+
+void Monitorplatz::pruefe_verwechselbar() const {
+  const int zeile = pult.FTPSpread.aktive_Zeile();
+  const std::string& id = pult.FTPSpread.zelle(zeile, Registerspalte::ID);
+  pruefe_Schreibweise(pult.FTPSpread, id, zeile);
+}
+
+void Monitorplatz::pruefe_Adresse() const {
+  const std::string& id = pult.FTPSpread.zelle(pult.FTPSpread.aktive_Zeile(), Registerspalte::ID);
+  if (id.find_first_of("@#?%") != std::string::npos)
+    throw Abbruch("The ID \"" + id +
+                  "\" holds @ # ? or %, so a download would ask the server for another file. Give "
+                  "the plant another ID, here and on the server.");
+}
+
+void Monitorplatz::melde_unbekannte_Route() const {
+  const std::string_view route =
+      getrimmt(pult.FTPSpread.zelle(pult.FTPSpread.aktive_Zeile(), Registerspalte::nt));
+  const std::string nummer = Flag_find(p.captions, route, 1);
+  if (!route.empty() && nummer == std::to_string(Route_alle) &&
+      Flag_find(p.captions, nummer, 2) != route)
+    melde("nt: the register's \"" + gekuerzt(route) + "\" is no route; it counts as " + nummer +
+          ", which tells everybody.");
 }
 
 void Monitorplatz::pruefe_neue_ID(const std::string& alt, const std::string& neu) const {

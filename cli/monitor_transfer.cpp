@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 
 #include "konsole.h"
 #include "monitor_anzeige.h"
@@ -9,6 +10,13 @@
 namespace polarkreis::cli {
 
 namespace {
+
+bool lesbar_fuer_andere(const std::string& datei) {
+  using std::filesystem::perms;
+  std::error_code fehler;
+  const perms rechte = std::filesystem::status(datei, fehler).permissions();
+  return !fehler && (rechte & (perms::group_read | perms::others_read)) != perms::none;
+}
 
 /// Where the shown values of a file come from.
 enum class Herkunft { Server, Kopie, Register };
@@ -24,13 +32,15 @@ class Verkehr {
   Verkehr(Sitzung& s, const Monitorwuensche& wuensche)
       : einstellungen(wuensche.teil != "rules"),
         regeln(wuensche.teil != "settings"),
-        platz(s),
+        platz(s, wuensche.speichern),
         pult(platz.pult),
         sitzung_(s),
         wuensche_(wuensche) {
     if (wuensche.speichern) platz.pruefe_speicherbar(wuensche.erzwingen);
     platz.waehle(monitor_id(wuensche.id));
+    platz.pruefe_verwechselbar();
     pruefe_Konto();
+    if (einstellungen) platz.melde_unbekannte_Route();
     pult.fortschritt = &fortschritt_;
   }
   ~Verkehr() { pult.fortschritt = nullptr; }
@@ -65,17 +75,21 @@ class Verkehr {
 };
 
 void Verkehr::pruefe_Konto() {
+  const std::string datei = platz.p.ablage.pfad(Kontodatei);
   pult.Server_settings();
   if (pult.ftp.Server_Wahl == 0)
     throw Abbruch(
         "The plant has no server choice, so there is no account for a transfer. Give it "
         "one: polarkreis-cli monitor set \"" +
         pult.ftp.ID + "\" server=1");
+  if (const std::string grund = Standardkonto_lesen(platz.p.ablage).hindernis; !grund.empty())
+    throw Abbruch("The account's file \"" + datei + "\" can't be read: " + grund);
   if (pult.ftp.FTP_Host.empty())
-    throw Abbruch(
-        "There is no FTP server to go to: fill in the file \"" + platz.p.ablage.pfad(Kontodatei) +
-        "\", five texts in quotes, one a line: the server's address, its host name, user, "
-        "password, folder.");
+    throw Abbruch("There is no FTP server to go to: fill in the file \"" + datei +
+                  "\", five texts in quotes, one a line: the server's address, its host name, "
+                  "user, password, folder.");
+  if (lesbar_fuer_andere(datei))
+    melde("Others can read the password in \"" + datei + "\": chmod 600 closes the file to them.");
 }
 
 std::string fehlertext(const Datei& d) {
@@ -171,6 +185,7 @@ void monitor_upload(Sitzung& sitzung, const Monitorwuensche& w) {
 
 void monitor_download(Sitzung& sitzung, const Monitorwuensche& w) {
   Verkehr verkehr(sitzung, w);
+  verkehr.platz.pruefe_Adresse();
   ftp_server& pult = verkehr.pult;
   if (verkehr.einstellungen) {
     pult.Tab_Select(1);

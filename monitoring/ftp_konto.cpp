@@ -16,9 +16,9 @@ std::string_view ohne_Schraegstriche(std::string_view ordner) {
 }  // namespace
 
 Ftp_Konto Standardkonto_lesen(Ablage& ablage) {
-  const std::string inhalt = ablage.lies_ganz(Kontodatei).value_or("");
-  ItemLeser items(inhalt);
   Ftp_Konto konto;
+  const std::string inhalt = ablage.lies_ganz(Kontodatei, &konto.hindernis).value_or("");
+  ItemLeser items(inhalt);
   konto.IP = getrimmt(items.lies());
   konto.Host = getrimmt(items.lies());
   konto.Nutzer = items.lies();

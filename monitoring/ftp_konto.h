@@ -14,6 +14,8 @@ struct Ftp_Konto {
   std::string Nutzer;
   std::string Passwort;
   std::string Ordner;  ///< folder on the server, without "/" at its ends
+  std::string
+      hindernis{};  ///< why the account's file can't be read; empty if it can, or isn't there
 };
 
 /// The operator's file with the default account in the data folder: five quoted items, one a line,

@@ -40,7 +40,7 @@ const std::string& Register::zelle(int zeile, int spalte) const {
 
 // Foreign bytes would make the whole file be read as another character set.
 void Register::setze(int zeile, int spalte, std::string text) {
-  if (innen(zeile, spalte)) zellen_[ort(zeile, spalte)] = als_utf8(std::move(text));
+  if (innen(zeile, spalte)) zellen_[ort(zeile, spalte)] = Teil_als_utf8(std::move(text));
 }
 
 int Register::Serverwahl(int zeile) const {
@@ -72,7 +72,7 @@ bool Register::ist_leer(int zeile) const {
 // Only a file of exactly so many cells is taken as the program's own whole one.
 bool Register::lies(Ablage& ablage) {
   ueberzaehlig = 0;
-  const std::optional<std::string> inhalt = ablage.lies_ganz(Datei);
+  const std::optional<std::string> inhalt = ablage.lies_bytes(Datei, &hindernis);
   if (!inhalt || inhalt->empty()) return false;
   Textzeilen zeilen(*inhalt, textzahl(*inhalt) == zellen_.size());
   std::size_t gelesen = 0;
@@ -84,6 +84,10 @@ bool Register::lies(Ablage& ablage) {
 }
 
 bool Register::schreib(Ablage& ablage) const {
+  if (!hindernis.empty()) {
+    ablage.meldungen().melde("write", ablage.pfad(Datei), "left as it is: it could not be read");
+    return false;
+  }
   std::string inhalt;
   for (const std::string& text : zellen_) zeile_anhaengen(inhalt, {text});
   return ablage.schreib_ganz(Datei, inhalt, Haltbarkeit::sicher, Zugriff::nur_Eigner);

@@ -80,12 +80,15 @@ class Register {
   /// True if no cell of the row holds anything.
   bool ist_leer(int zeile) const;
 
+  /// Why the file that is there could not be read at the last reading; empty if it could, or if
+  /// there is none. While it isn't, no save takes its place: that would lose every plant.
+  std::string hindernis;
   /// Lines behind the last cell that the file had at the last reading: a save leaves them out.
   int ueberzaehlig = 0;
 
   /// Reads "FMD_M_Global.ini", one cell a line, row after row. A missing file leaves the table as
   /// it is, a shorter one the cells behind its end; lines beyond the last cell are counted in the
-  /// message log. Reading never changes the file. False if there is no file.
+  /// message log. Reading never changes the file. False if there is no file or it can't be read.
   bool lies(Ablage& ablage);
   /// Writes the 10,000 cells, readable by their owner alone. False, and the old file whole, on a
   /// failure (see `Ablage::letzter_fehler`).

@@ -27,12 +27,24 @@ std::string route(const Captions& captions, int nummer) {
   return text;
 }
 
+/// True for the word for none in another language.
+bool heisst_keine(const Captions& captions, std::string_view text) {
+  constexpr int zeile[] = {static_cast<int>(PedCap::Ohne)};
+  for (const std::string_view sprache : Sprachen()) {
+    if (sprache == captions.Sprache || !captions.vorhanden(sprache)) continue;
+    const std::string hier =
+        captions.Caption_Uebersetzen(Stamm::PEDcap, zeile, sprache, captions.Sprache, text);
+    if (hier == captions.text(PedCap::Ohne)) return true;
+  }
+  return false;
+}
+
 int nummer(const Captions& captions, std::string_view text) {
   const std::string_view gesucht = getrimmt(text);
   if (gesucht.empty()) return Route_alle;
   for (int n = 0; n < Route_alle; ++n)
     if (getrimmt(route(captions, n)) == gesucht) return n;
-  return Route_alle;
+  return heisst_keine(captions, gesucht) ? kKeine : Route_alle;
 }
 
 }  // namespace

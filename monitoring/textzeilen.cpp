@@ -1,6 +1,7 @@
 #include "monitoring/textzeilen.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "shell/text.h"
 
@@ -17,6 +18,10 @@ std::string_view ohne_Raender(std::string_view zeile) {
 
 }  // namespace
 
+Textzeilen::Textzeilen(std::string_view bytes, bool eigen) : text_(bytes), eigen_(eigen) {
+  if (text_.starts_with(Bytemarke)) text_.remove_prefix(Bytemarke.size());
+}
+
 std::size_t Textzeilen::zeilenende(std::size_t von) const {
   return std::min(text_.find('\n', von), text_.size());
 }
@@ -28,7 +33,7 @@ std::string Textzeilen::lies() {
   if (anfang == std::string_view::npos || text_[anfang] != kAnfuehrung) return lies_zeile();
   const std::size_t vorher = ort_;
   ort_ = anfang + 1;
-  if (lies_in_Anfuehrung(text)) return text;
+  if (lies_in_Anfuehrung(text)) return Teil_als_utf8(std::move(text));
   ort_ = vorher;
   ++gebrochen_;
   return lies_zeile();
@@ -73,7 +78,7 @@ std::string Textzeilen::lies_zeile() {
     zeile.remove_prefix(1);
     if (zeile.ends_with(kAnfuehrung)) zeile.remove_suffix(1);
   }
-  return std::string(zeile);
+  return Teil_als_utf8(std::string(zeile));
 }
 
 }  // namespace polarkreis

@@ -11,12 +11,13 @@ namespace polarkreis {
 /// kept) may go over several lines. Any other line is one text by itself: where it begins with a
 /// quote, without that and the one at its end, and with those inside as they stand, so that a quote
 /// too many or too few spoils no other line. Blanks and tabs around a line are dropped; lines end
-/// with LF or CR LF.
+/// with LF or CR LF. Each text by itself is UTF-8 or else Windows-1252; a byte order mark at the
+/// file's beginning is dropped.
 class Textzeilen {
  public:
   /// `eigen`: the whole text was written by this program, and its quotes count. Otherwise a line of
   /// nothing but quotes ends an open text, too: it is an empty text of its own.
-  explicit Textzeilen(std::string_view text, bool eigen = false) : text_(text), eigen_(eigen) {}
+  explicit Textzeilen(std::string_view bytes, bool eigen = false);
 
   /// True when no line is left; the last line end adds none.
   bool ende() const { return ort_ >= text_.size(); }

@@ -67,7 +67,10 @@ Uebertragung::Ergebnis Uebertragung::Beginn(Ladeweg weg, const std::string& Date
 Uebertragung::Ergebnis Uebertragung::Hoch_laden(Ladeweg weg, const std::string& Dateiname) {
   Ergebnis ergebnis = Beginn(weg, Dateiname);
   if (!ergebnis.grund.empty()) return ergebnis;
-  Tempordner_anlegen();
+  if (!Tempordner_anlegen()) {
+    ergebnis.grund = ablage_.letzter_fehler();
+    return ergebnis;
+  }
   const std::string Basis =
       "ftp://" + FTP_User + ":" + FTP_Passwort + "@" + FTP_Host + "/" + FTP_Ordner + "/" + ID;
   herunterladen(Basis + "/" + ID + "_INS", Tempdatei(ID + "_INS"));
@@ -89,7 +92,7 @@ Uebertragung::Ergebnis Uebertragung::Abschicken(const std::string& Dateiname,
 
 std::optional<std::string> Uebertragung::Kopie(const std::string& Dateiname) const {
   if (!ist_Dateiname(Dateiname)) return std::nullopt;
-  return ablage_.lies_ganz(Tempdatei(Dateiname));
+  return ablage_.lies_bytes(Tempdatei(Dateiname));
 }
 
 void Uebertragung::ablegen(Ergebnis& ergebnis) {

@@ -62,13 +62,14 @@ class Uebertragung {
   /// Makes the temporary folder, probes the plant's marker "<ID>_INS" on the server (without
   /// consequences), and moves the file between the temporary folder and the server. After a failed
   /// download the local copy of an earlier one, if there is one, is as it was. A name that is no
-  /// file name (it holds a path's separator) is refused before anything is sent.
+  /// file name (it holds a path's separator), and a temporary folder that can't be made, end it
+  /// before anything is sent.
   Ergebnis Hoch_laden(Ladeweg weg, const std::string& Dateiname);
 
   /// Writes the local file, readable by its owner alone, and uploads it. What can't be written
   /// doesn't go out: the file there would be that of an earlier upload.
   Ergebnis Abschicken(const std::string& Dateiname, std::string_view inhalt);
-  /// The local copy of a file; nothing if there is none.
+  /// The bytes of a file's local copy; nothing if there is none.
   std::optional<std::string> Kopie(const std::string& Dateiname) const;
 
   /// Makes the temporary folder, open to its owner alone; one that is there is no error.

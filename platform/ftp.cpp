@@ -27,9 +27,10 @@ bool ist_Host(std::string_view host) {
          host.find_first_of(" /\\@?#%\"") == std::string_view::npos;
 }
 
-/// False if the address can be read in more than one way: the first "@" ends the login, the first
+/// False if the address can be read in more than one way: the only "@" ends the login, the first
 /// ":" of that ends the user, and what ends the server's name must not stand before it. So no part
-/// of an account is ever taken for a server.
+/// of an account is ever taken for a server; a path with an "@" can't be told from a password with
+/// one and a "/".
 bool ist_eindeutig(std::string_view adresse) {
   const std::size_t schema = adresse.find("://");
   if (schema == std::string_view::npos || hat_Steuerzeichen(adresse)) return false;
@@ -37,7 +38,7 @@ bool ist_eindeutig(std::string_view adresse) {
   const std::string_view vorn = stelle.substr(0, stelle.find('/'));
   const std::string_view konto = vorn.substr(0, vorn.find('@'));
   if (konto.size() == vorn.size()) return stelle.find('@') == std::string_view::npos;
-  return std::count(vorn.begin(), vorn.end(), '@') == 1 &&
+  return std::count(stelle.begin(), stelle.end(), '@') == 1 &&
          std::count(konto.begin(), konto.end(), ':') <= 1 &&
          konto.find_first_of("#?") == std::string_view::npos;
 }
@@ -105,16 +106,23 @@ bool ist_voll(long antwort) {
 }
 
 constexpr const char* kAdresse =
-    "The server's address can't be used. Check the server's name, and let user and password hold "
-    "none of the characters @ : / # ? %.";
+    "The address can't be used. Check the server's name, and let user and password hold none of "
+    "the characters @ : / # ? %, and folder and ID no @.";
+constexpr const char* kHost =
+    "The server's name can't be used. Enter a host name or number, with \":port\" behind it at the "
+    "most.";
+constexpr const char* kAbgewiesen =
+    "The server turns the connection away: it has too many, or is closing. Try again later.";
 constexpr const char* kSteuerzeichen =
     "Server, user or password hold a control character. Enter them again without it.";
 constexpr const char* kKein_Griff = "There is no open connection. Connect to the server first.";
 constexpr const char* kVoll =
     "The server has no space left for the file. Ask whoever runs it to make room.";
 
-/// What an error of the library means for the user.
-std::string satz(CURLcode fehler) {
+/// What an error of the library, and the server's last reply before it, mean for the user.
+std::string satz(CURLcode fehler, long antwort = 0) {
+  constexpr long kDienst_endet = 421;
+  if (fehler != CURLE_OK && antwort == kDienst_endet) return kAbgewiesen;
   switch (fehler) {
     case CURLE_OK:
       return {};
@@ -219,6 +227,13 @@ class CurlFtp::Verbindung {
     return fehler == CURLE_WRITE_ERROR ? CURLE_FILESIZE_EXCEEDED : fehler;
   }
 
+  /// The server's last reply; 0 without one.
+  long antwort() const {
+    long nummer = 0;
+    if (curl_ != nullptr) ::curl_easy_getinfo(curl_, CURLINFO_RESPONSE_CODE, &nummer);
+    return nummer;
+  }
+
  private:
   template <class T>
   void setze(CURLoption option, T wert) {
@@ -250,12 +265,6 @@ class CurlFtp::Verbindung {
     int rest = 0;
     const CURLMsg* const meldung = ::curl_multi_info_read(antrieb_, &rest);
     return meldung != nullptr ? meldung->data.result : CURLE_FAILED_INIT;
-  }
-
-  long antwort() const {
-    long nummer = 0;
-    ::curl_easy_getinfo(curl_, CURLINFO_RESPONSE_CODE, &nummer);
-    return nummer;
   }
 
   /// The library would wait for minutes for the answer to its goodbye, whatever the limits are. An
@@ -290,10 +299,11 @@ FtpKlient::Griff CurlFtp::InternetConnectA(Griff hInternet, const std::string& h
   else if (hat_Steuerzeichen(host) || hat_Steuerzeichen(nutzer) || hat_Steuerzeichen(passwort))
     grund_ = kSteuerzeichen;
   else if (!ist_Host(host))
-    grund_ = kAdresse;
+    grund_ = kHost;
   if (!grund_.empty()) return 0;
   auto neu = std::make_unique<Verbindung>(fristen_);
-  grund_ = satz(neu->anmelden(host, nutzer, passwort));
+  const CURLcode fehler = neu->anmelden(host, nutzer, passwort);
+  grund_ = satz(fehler, neu->antwort());
   if (!grund_.empty()) return 0;
   griffe_.emplace(naechster_, std::move(neu));
   return naechster_++;
@@ -315,7 +325,8 @@ bool CurlFtp::FtpPutFileA(Griff hFtp, const std::string& lokal, const std::strin
     grund_ = "The local file can't be read: " + platte::grund(fehler);
   } else {
     if (modus == ASCII) bytes = mit_LF(bytes);
-    grund_ = satz(offen->sende(entfernt, bytes, modus == ASCII));
+    const CURLcode nummer = offen->sende(entfernt, bytes, modus == ASCII);
+    grund_ = satz(nummer, offen->antwort());
   }
   return grund_.empty();
 }
@@ -328,14 +339,15 @@ bool CurlFtp::InternetCloseHandle(Griff griff) {
 
 int CurlFtp::URLDownloadToFileA(const std::string& adresse, const std::string& lokal) {
   std::string bytes;
+  Verbindung server(fristen_);
   CURLcode fehler = CURLE_OK;
   if (!ist_eindeutig(adresse))
     fehler = CURLE_URL_MALFORMAT;
   else if (nennt_Ordner(adresse))
     fehler = CURLE_REMOTE_FILE_NOT_FOUND;
   else
-    fehler = Verbindung(fristen_).hole(ohne_Leerzeichen(adresse), bytes);
-  grund_ = satz(fehler);
+    fehler = server.hole(ohne_Leerzeichen(adresse), bytes);
+  grund_ = satz(fehler, server.antwort());
   if (fehler != CURLE_OK) return fehler;
   const int platz = platte::ersetze(lokal, bytes, false, true);
   if (platz == 0) return 0;

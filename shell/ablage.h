@@ -96,8 +96,11 @@ class Ablage {
   /// --- Whole files.
 
   /// The content as UTF-8, or nothing if the file is absent or can't be read (a folder, no
-  /// permission): the message log then tells why.
-  std::optional<std::string> lies_ganz(std::string_view name);
+  /// permission): the message log then tells why, and so does `hindernis`, which is empty for an
+  /// absent file.
+  std::optional<std::string> lies_ganz(std::string_view name, std::string* hindernis = nullptr);
+  /// The same as it stands in the file, bytes of any character set.
+  std::optional<std::string> lies_bytes(std::string_view name, std::string* hindernis = nullptr);
   /// Puts `inhalt` in place in one step; false on a failure, and the old file is as it was. A
   /// read-only target is refused, a link stays a link, and a name that stands in another case is
   /// the target.

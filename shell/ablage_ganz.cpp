@@ -7,11 +7,19 @@
 
 namespace polarkreis {
 
-std::optional<std::string> Ablage::lies_ganz(std::string_view name) {
+std::optional<std::string> Ablage::lies_ganz(std::string_view name, std::string* hindernis) {
+  std::optional<std::string> bytes = lies_bytes(name, hindernis);
+  if (bytes) bytes = als_utf8(std::move(*bytes));
+  return bytes;
+}
+
+std::optional<std::string> Ablage::lies_bytes(std::string_view name, std::string* hindernis) {
   const std::string wo = pfad(name);
   std::string bytes;
   const int fehler = platte::lies(wo, bytes);
-  if (fehler == 0) return als_utf8(std::move(bytes));
+  if (hindernis != nullptr)
+    *hindernis = fehler == 0 || fehler == ENOENT ? std::string() : platte::grund(fehler);
+  if (fehler == 0) return bytes;
   if (fehler != ENOENT) meldungen_.melde("read", wo, "taken as absent: " + platte::grund(fehler));
   return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace polarkreis {
 
@@ -207,8 +208,11 @@ std::string aus_windows_1252(std::string_view bytes) {
 }  // namespace
 
 std::string als_utf8(std::string bytes) {
-  constexpr std::string_view Marke = "\xEF\xBB\xBF";
-  if (bytes.starts_with(Marke)) bytes.erase(0, Marke.size());
+  if (bytes.starts_with(Bytemarke)) bytes.erase(0, Bytemarke.size());
+  return Teil_als_utf8(std::move(bytes));
+}
+
+std::string Teil_als_utf8(std::string bytes) {
   const std::size_t gut = utf8_laenge(bytes);
   if (gut == bytes.size()) return bytes;
   const std::size_t ab = nur_abgeschnitten(bytes, gut) ? gut : 0;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <thread>
 
 #include "anlagenregister.h"
 
@@ -92,7 +93,7 @@ TEST_F(Monitor, ShowHidesThePasswordUnlessAskedForIt) {
   EXPECT_EQ(gezeigt["nm"], "Kühlhaus 3");
   EXPECT_EQ(gezeigt["pw"], "********");
   EXPECT_EQ(gezeigt["nt"], "ftp + SMS2");
-  EXPECT_EQ(gezeigt["nt_number"], 10);
+  EXPECT_EQ(gezeigt["nt_number"].dump(), "10");
   EXPECT_EQ(gezeigt["server_choice"], 2);
   EXPECT_EQ(json_von({"show", "K17", "--password"})["pw"], "s3cret");
   EXPECT_EQ(json_von({"show", "K9"})["pw"], "");
@@ -123,7 +124,7 @@ TEST_F(Monitor, AForeignIDWithASlashCanBeShownButNotMade) {
   r(3, 1) = "a/b";
   r.schreib(daten);
   EXPECT_EQ(json_von({"show", "a/b"})["row"], 3);
-  for (const char* id : {"c/d", "c\\d", ".", "..", "c#d", "c?d", "50%"}) {
+  for (const char* id : {"c/d", "c\\d", ".", "..", "c@d", "c#d", "c?d", "50%"}) {
     const Antwort a = rufe({"set", id, "nm=x"});
     EXPECT_EQ(a.status, 1) << id;
     EXPECT_TRUE(enthaelt(a.fehler, "name of a folder")) << a.fehler;
@@ -471,6 +472,58 @@ TEST_F(Monitor, ARegisterThatCantBeWrittenIsSaidAndStaysWhole) {
     EXPECT_EQ(a.ausgabe, "");
     EXPECT_EQ(registertext(), r.text());
   }
+}
+
+TEST_F(Monitor, ARegisterThatCantBeReadIsNeitherEmptyNorReplaced) {
+  daten.schreib(std::string(Anlagenregister::datei) + "/a file", "x");
+  for (const Argumente& aufruf :
+       {Argumente{"list"}, Argumente{"show", "K17"}, Argumente{"set", "K17", "nm=x"}}) {
+    const Antwort a = rufe(aufruf);
+    EXPECT_EQ(a.status, 1);
+    EXPECT_TRUE(enthaelt(a.fehler, "can't be read")) << a.fehler;
+    EXPECT_EQ(a.ausgabe, "");
+  }
+  EXPECT_TRUE(daten.da(std::string(Anlagenregister::datei) + "/a file"));
+}
+
+TEST_F(Monitor, PlantsMadeAtTheSameTimeAreAllKept) {
+  constexpr int kAnlagen = 8;
+  std::vector<std::thread> rufer;
+  for (int i = 1; i <= kAnlagen; ++i)
+    rufer.emplace_back([&, i] {
+      EXPECT_EQ(rufe({"set", "P" + std::to_string(i), "nm=x"}).status, 0);
+    });
+  for (std::thread& r : rufer) r.join();
+  EXPECT_EQ(json_von({"list"}).size(), std::size_t{kAnlagen});
+}
+
+TEST_F(Monitor, AForeignLineSpoilsNoOther) {
+  Anlagenregister r = zwei_Anlagen();
+  r(3, 2) = "gr\xfcn";
+  r(3, 3) = "\xEF\xBB\xBFmarked";
+  r.schreib(daten);
+  EXPECT_EQ(rufe({"set", "K17", "st=Weg"}).status, 0);
+  r(2, 3) = "Weg";
+  r(3, 2) = "grün";
+  EXPECT_EQ(registertext(), r.text());
+}
+
+TEST_F(Monitor, ARouteOfTheRegisterThatIsNoneIsTold) {
+  Anlagenregister r = zwei_Anlagen();
+  r(2, 19) = "carrier pigeon";
+  r(4, 19) = "ohne";
+  r.schreib(daten);
+  EXPECT_TRUE(enthaelt(rufe({"show", "K17"}).fehler, "\"carrier pigeon\" is no route"));
+  EXPECT_EQ(json_von({"show", "K17"})["nt_number"], 15);
+  EXPECT_EQ(rufe({"show", "K9"}).fehler, "");
+  EXPECT_EQ(json_von({"show", "K9"})["nt_number"], 0);
+}
+
+TEST_F(Monitor, AnIDIsNoLongerThanAFilesNameCanBe) {
+  const std::string lang(247, 'K');
+  EXPECT_EQ(rufe({"set", lang + "K", "nm=x"}).status, 1);
+  EXPECT_FALSE(daten.da(Anlagenregister::datei));
+  EXPECT_EQ(rufe({"set", lang, "nm=x"}).status, 0);
 }
 
 }  // namespace

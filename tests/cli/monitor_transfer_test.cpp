@@ -285,6 +285,45 @@ TEST_F(MonitorTransfer, AnEmptyAccountNamesItsFileAndIsNotMade) {
   EXPECT_TRUE(enthaelt(rufe({"download", "K17"}).fehler, "ftp_default.ini"));
 }
 
+TEST_F(MonitorTransfer, AnAccountThatCantBeReadIsNotCalledEmpty) {
+  daten.schreib("ftp_default.ini/a file", "x");
+  const Antwort a = rufe({"upload", "K17"});
+  EXPECT_EQ(a.status, 1);
+  EXPECT_TRUE(enthaelt(a.fehler, "can't be read")) << a.fehler;
+}
+
+TEST_F(MonitorTransfer, AnAccountThatOthersCanReadIsTold) {
+  konto("127.0.0.1:1");
+  std::filesystem::permissions(daten.pfad("ftp_default.ini"), std::filesystem::perms(0640));
+  EXPECT_TRUE(enthaelt(rufe({"upload", "K17", "settings"}).fehler, "chmod 600"));
+  std::filesystem::permissions(daten.pfad("ftp_default.ini"), std::filesystem::perms(0600));
+  EXPECT_FALSE(enthaelt(rufe({"upload", "K17", "settings"}).fehler, "chmod 600"));
+}
+
+TEST_F(MonitorTransfer, AnIDThatBreaksAnAddressIsNotDownloaded) {
+  konto("127.0.0.1:1");
+  for (const char* id : {"K%41", "K#1", "K?", "K@h"}) {
+    r(1, 1) = id;
+    r.schreib(daten);
+    const Antwort a = rufe({"download", id, "settings"});
+    EXPECT_EQ(a.status, 1);
+    EXPECT_TRUE(enthaelt(a.fehler, "another file")) << a.fehler;
+  }
+}
+
+TEST_F(MonitorTransfer, PlantsThatDifferByCapitalsOnlyAreNotTransferred) {
+  konto("127.0.0.1:1");
+  r(5, 1) = "k17";
+  r(5, Anlagenregister::Server_Wahl) = "1";
+  r.schreib(daten);
+  for (const char* id : {"K17", "k17"}) {
+    const Antwort a = rufe({"download", id, "settings"});
+    EXPECT_EQ(a.status, 1);
+    EXPECT_TRUE(enthaelt(a.fehler, "by capitals only")) << a.fehler;
+    EXPECT_EQ(a.ausgabe, "");
+  }
+}
+
 TEST_F(MonitorTransfer, ShowTellsWhereTransfersGoWithoutThePassword) {
   konto("ftp.example:2121");
   const Antwort a = rufe({"show", "K17", "--json", "--password"});

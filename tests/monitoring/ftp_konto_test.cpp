@@ -36,6 +36,23 @@ TEST_F(FtpKontoTest, FolderThatIsNotNamedIsTheUsualOne) {
   EXPECT_EQ(Standardkonto_lesen(ablage).Ordner, "html/monitoring");
 }
 
+TEST_F(FtpKontoTest, FileThatCantBeReadIsToldFromAMissingOne) {
+  EXPECT_EQ(Standardkonto_lesen(ablage).hindernis, "");
+  ordner.schreib("ftp_default.ini/a file", "x");
+  EXPECT_NE(Standardkonto_lesen(ablage).hindernis, "");
+  EXPECT_EQ(Standardkonto_lesen(ablage).Host, "");
+}
+
+TEST_F(FtpKontoTest, ItemsMayStandInOneLineOrWithoutQuotes) {
+  ordner.schreib("ftp_default.ini", "\xEF\xBB\xBF\"1\",\"h:21\",\"u\"\np\n\"a\"");
+  const Ftp_Konto konto = Standardkonto_lesen(ablage);
+  EXPECT_EQ(konto.IP, "1");
+  EXPECT_EQ(konto.Host, "h:21");
+  EXPECT_EQ(konto.Nutzer, "u");
+  EXPECT_EQ(konto.Passwort, "p");
+  EXPECT_EQ(konto.Ordner, "a");
+}
+
 TEST_F(FtpKontoTest, FolderHasNoSlashAtItsEnds) {
   ordner.schreib("ftp_default.ini", zeilen({"1", "h", "u", "p", "/a/b/"}));
   EXPECT_EQ(Standardkonto_lesen(ablage).Ordner, "a/b");

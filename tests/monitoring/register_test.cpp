@@ -204,6 +204,19 @@ TEST_F(RegisterTest, FailingSaveLeavesTheOldFileAndTellsWhy) {
   EXPECT_EQ(ordner.lies(Register::Datei), zeilen({"1", "2", "3"}));
 }
 
+TEST_F(RegisterTest, FileThatCantBeReadIsNotReplaced) {
+  ordner.schreib(std::string(Register::Datei) + "/a file", "x");
+  EXPECT_FALSE(reg.lies(ablage));
+  EXPECT_NE(reg.hindernis, "");
+  EXPECT_FALSE(reg.schreib(ablage));
+  EXPECT_EQ(ordner.lies(std::string(Register::Datei) + "/a file"), "x");
+  std::filesystem::remove_all(ordner.pfad(Register::Datei));
+  EXPECT_FALSE(reg.schreib(ablage));
+  EXPECT_FALSE(reg.lies(ablage));
+  EXPECT_EQ(reg.hindernis, "");
+  EXPECT_TRUE(reg.schreib(ablage));
+}
+
 TEST_F(RegisterTest, FirstRowCountsWhereNoneIsChosen) {
   EXPECT_EQ(reg.aktive_Zeile(), 1);
   for (const int zeile : {0, -1, 101}) {

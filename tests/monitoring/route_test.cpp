@@ -70,6 +70,15 @@ TEST(FlagFind, EmptyCaptionForNoneMatchesNothing) {
   EXPECT_EQ(Flag_find(captions, "SMS1", 1), "1");
 }
 
+// A plant that tells nobody must not begin to ring when another language is chosen.
+TEST(FlagFind, WordForNoneCountsInEachLanguage) {
+  const Texte deutsch("GER"), englisch("ENG");
+  EXPECT_EQ(Flag_find(deutsch.captions, "none", 1), "0");
+  EXPECT_EQ(Flag_find(englisch.captions, " ohne ", 1), "0");
+  EXPECT_EQ(Flag_find(englisch.captions, "keine", 1), "15");
+  EXPECT_EQ(Flag_find(englisch.captions, "hoch", 1), "15");
+}
+
 TEST(FlagFind, RoutesAreListedInTheOrderOfTheirNumbers) {
   const Texte texte("GER");
   std::vector<std::string> erwartet = kTexte;

@@ -42,6 +42,15 @@ TEST(Textzeilen, EndGivesTheEmptyText) {
   EXPECT_EQ(leser.gebrochen(), 0);
 }
 
+TEST(Textzeilen, EachTextHasItsOwnCharacterSet) {
+  Textzeilen zeilen("\xEF\xBB\xBF\"K\xC3\xBChl\"\n\"gr\xFCn\"\n\"\xEF\xBB\xBFx\"\n\xC3\xA4\n");
+  EXPECT_EQ(zeilen.lies(), "Kühl");
+  EXPECT_EQ(zeilen.lies(), "grün");
+  EXPECT_EQ(zeilen.lies(), "\xEF\xBB\xBFx");
+  EXPECT_EQ(zeilen.lies(), "ä");
+  EXPECT_TRUE(zeilen.ende());
+}
+
 TEST(Textzeilen, CommaPartsNothing) {
   EXPECT_EQ(alle("\"a, b\"\r\nc, d\r\n"), (Texte{"a, b", "c, d"}));
   EXPECT_EQ(alle("\"a\",\"b\"\r\n\"c\""), (Texte{"a\",\"b", "c"}));

@@ -228,8 +228,12 @@ TEST_F(UebertragungTest, TemporaryFolderIsMadeForItsOwnerAlone) {
 TEST_F(UebertragungTest, TemporaryFolderThatIsNoneIsAFailure) {
   ordner.schreib("FMD_Temp", "a file");
   EXPECT_FALSE(ftp->Tempordner_anlegen());
-  EXPECT_FALSE(hoch("K17SETTINGS").gut);
-  EXPECT_FALSE(herunter("K17SETTINGS").gut);
+  klient.rufe.clear();
+  for (const Uebertragung::Ergebnis& e : {hoch("K17SETTINGS"), herunter("K17SETTINGS")}) {
+    EXPECT_FALSE(e.gut);
+    EXPECT_NE(e.grund.find("FMD_Temp"), std::string::npos) << e.grund;
+  }
+  EXPECT_EQ(klient.rufe, Zeilen{});
   EXPECT_EQ(ordner.lies("FMD_Temp"), "a file");
 }
 

@@ -1,5 +1,3 @@
-#include <chrono>
-
 #include "platform/ftp_platz.h"
 
 using namespace polarkreis;
@@ -46,16 +44,17 @@ TEST_F(FtpStoerung, FolderIsNoFile) {
   EXPECT_EQ(server.anzahl("LIST") + server.anzahl("NLST"), 0);
 }
 
+// A wait of the library's own is two minutes each: all of them together outlast the test's limit.
 TEST_F(FtpStoerung, ClosingDoesNotWaitForTheServersGoodbye) {
+  constexpr int kMal = 3;
   const FtpGegenstelle server({"--mute", "QUIT"});
   ASSERT_TRUE(server.bereit());
   server.wurzel().schreib("a", "new");
-  const auto beginn = std::chrono::steady_clock::now();
-  const FtpKlient::Griff griff = verbinde(ftp, server);
-  EXPECT_TRUE(ftp.InternetCloseHandle(griff));
-  EXPECT_EQ(herunter(ftp, server, "a"), 0);
-  EXPECT_TRUE(server.warte_auf("QUIT", 2));
-  EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(15));
+  for (int n = 0; n < kMal; ++n) {
+    EXPECT_TRUE(ftp.InternetCloseHandle(verbinde(ftp, server)));
+    EXPECT_EQ(herunter(ftp, server, "a"), 0);
+  }
+  EXPECT_TRUE(server.warte_auf("QUIT", 2 * kMal));
 }
 
 TEST_F(FtpStoerung, LocalFileThatCannotBeReadIsNotSent) {
@@ -87,7 +86,8 @@ TEST_F(FtpStoerung, ServerThatRefusesSaysWhy) {
   const FtpGegenstelle lesbar({"--read-only"});
   const FtpGegenstelle voll({"--answer", "STOR", "552 Quota exceeded"});
   const FtpGegenstelle fremd({"--answer", "EPSV", "500 ?", "--answer", "PASV", "500 ?"});
-  ASSERT_TRUE(lesbar.bereit() && voll.bereit() && fremd.bereit());
+  const FtpGegenstelle besetzt({"--answer", "USER", "421 Too many connections"});
+  ASSERT_TRUE(lesbar.bereit() && voll.bereit() && fremd.bereit() && besetzt.bereit());
   ordner.schreib("lokal", "a");
   const auto grund = [&](const FtpGegenstelle& server) {
     EXPECT_FALSE(
@@ -99,6 +99,10 @@ TEST_F(FtpStoerung, ServerThatRefusesSaysWhy) {
   EXPECT_NE(grund(lesbar).find("may not write"), std::string::npos) << ftp.grund();
   EXPECT_NE(grund(voll).find("no space"), std::string::npos) << ftp.grund();
   EXPECT_NE(grund(fremd).find("makes no sense"), std::string::npos) << ftp.grund();
+  EXPECT_EQ(verbinde(ftp, besetzt), 0);
+  expect_nennt(ftp, "too many");
+  expect_Kopie_bleibt(ftp, besetzt);
+  expect_nennt(ftp, "too many");
 }
 
 TEST_F(FtpStoerung, DownloadEndsAtSixteenMebibytes) {

@@ -142,6 +142,22 @@ TEST_F(Ftp, PasswordMayHoldAnythingForAnUploadButNotInAnAddress) {
   }
 }
 
+TEST_F(Ftp, NoPartOfAPasswordIsTakenForAServer) {
+  const FtpGegenstelle fremd;
+  ASSERT_TRUE(fremd.bereit());
+  for (const std::string& passwort :
+       {"half@" + fremd.host() + "/rest", "half@" + fremd.host() + "#rest",
+        "@" + fremd.host() + "/", std::string("21/@x")}) {
+    SCOPED_TRACE(passwort);
+    const FtpGegenstelle server({}, "monitor", passwort);
+    ASSERT_TRUE(server.bereit());
+    server.wurzel().schreib(kEinstellung, "new");
+    EXPECT_EQ(herunter(ftp, server), kAdresse_unbrauchbar);
+    EXPECT_EQ(server.protokoll(), std::vector<std::string>{});
+  }
+  EXPECT_EQ(fremd.protokoll(), std::vector<std::string>{});
+}
+
 TEST_F(Ftp, PercentSignOfAnAddressIsReadAsSuch) {
   const FtpGegenstelle server({}, "monitor", "ge%41 heim;x=1");
   ASSERT_TRUE(server.bereit());

@@ -25,6 +25,25 @@ TEST_F(StartOrdner, AGivenFolderIsUsedAsItStands) {
   EXPECT_TRUE(anderer.namen().empty());
 }
 
+TEST_F(StartOrdner, TheFoundFolderGetsAnEmptyAccountFileThatIsNeverReplaced) {
+  Startangaben angaben;
+  angaben.gefundener_ordner = daten.pfad();
+  EXPECT_TRUE(start.starten(angaben));
+  EXPECT_EQ(daten.lies("ftp_default.ini"), "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
+  EXPECT_EQ(std::filesystem::status(daten.pfad("ftp_default.ini")).permissions(),
+            std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  daten.schreib("ftp_default.ini", "mine");
+  EXPECT_TRUE(start.starten(angaben));
+  EXPECT_EQ(daten.lies("ftp_default.ini"), "mine");
+}
+
+TEST_F(StartOrdner, AGivenFolderGetsNoAccountFile) {
+  Startangaben angaben;
+  angaben.datenordner = daten.pfad();
+  EXPECT_TRUE(start.starten(angaben));
+  EXPECT_FALSE(daten.da("ftp_default.ini"));
+}
+
 TEST_F(StartOrdner, AGivenFolderThatIsNotThereIsToldAndNotMade) {
   Startangaben angaben;
   angaben.datenordner = daten.pfad("absent");
