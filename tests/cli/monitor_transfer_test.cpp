@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "anlagenregister.h"
+#include "monitorplatz.h"
 #include "support/ftp_gegenstelle.h"
 
 namespace {
@@ -10,7 +10,7 @@ namespace {
 using nlohmann::json;
 using Argumente = std::vector<std::string>;
 
-constexpr const char* kRegel = "c1=tc;ro=  ;c2=  ;cm=3;vl=45;ti=10;nt=3;en=1;";
+using monitor_platz::kRegel;
 constexpr const char* kRegeldatei =
     "\"c1=tc;\"\r\n\"ro=  ;\"\r\n\"c2=  "
     ";\"\r\n\"cm=3;\"\r\n\"vl=45;\"\r\n\"ti=10;\"\r\n\"nt=3;\"\r\n"
