@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "monitorplatz.h"
@@ -7,10 +5,8 @@
 
 namespace {
 
-using nlohmann::json;
-using Argumente = std::vector<std::string>;
+using namespace monitor_platz;
 
-using monitor_platz::kRegel;
 constexpr const char* kRegeldatei =
     "\"c1=tc;\"\r\n\"ro=  ;\"\r\n\"c2=  "
     ";\"\r\n\"cm=3;\"\r\n\"vl=45;\"\r\n\"ti=10;\"\r\n\"nt=3;\"\r\n"
