@@ -58,9 +58,8 @@ Uebertragung::Ergebnis Uebertragung::Beginn(Ladeweg weg, const std::string& Date
   Ergebnis ergebnis{Dateiname, "/" + FTP_Ordner + "/" + ID + "/" + Dateiname, weg, false, {}};
   if (!ist_Dateiname(Dateiname) || !ist_Dateiname(ID))
     ergebnis.grund =
-        "The ID is the name of a folder and of files: give the plant one that isn't \".\" or "
-        "\"..\" "
-        "and holds no \"/\", \"\\\" or control characters.";
+        "The ID is the name of a folder and of files: it can't be \".\" or \"..\" and can't hold "
+        "\"/\", \"\\\" or control characters. Give the plant another one.";
   return ergebnis;
 }
 
