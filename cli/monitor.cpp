@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 
 #include "monitor_aenderung.h"
@@ -43,7 +44,8 @@ void einstellen(Sitzung& sitzung, const Monitorwuensche& w) {
   platz.pruefe_speicherbar(w.erzwingen);
   if (aenderung.id) platz.pruefe_neue_ID(id, *aenderung.id);
   const int zeile = platz.waehle_oder_neu(id);
-  platz.melde_unbekannte_Route();
+  const auto ist_Route = [](const auto& f) { return f.first.spalte == Registerspalte::nt; };
+  if (std::ranges::none_of(aenderung.felder, ist_Route)) platz.melde_unbekannte_Route();
   platz.pult.Tab_Select(1);
   aenderung.anwenden(platz.pult);
   platz.pult.set_speich();

@@ -17,10 +17,10 @@ std::string in_Zeile(int zeile) {
 
 // It names a folder and files, here and on the server, and stands in addresses as it is.
 void pruefe_Dateiname(const std::string& id) {
-  if (id == "." || id == ".." || id.find_first_of("/\\@#?%") != std::string::npos)
+  if (id == "." || id == ".." || id.find_first_of("/\\@#?%;") != std::string::npos)
     throw Abbruch("The ID \"" + id +
                   "\" can't be given to a plant: it becomes the name of a folder and of files on "
-                  "the server. Choose one without / \\ @ # ? % that isn't \".\" or \"..\".");
+                  "the server. Choose one without / \\ @ # ? % ; that isn't \".\" or \"..\".");
   constexpr std::size_t kLaengster_Name = 255, kAnhang = std::string_view("SETTINGS").size();
   if (id.size() > kLaengster_Name - kAnhang)
     throw Abbruch("The ID is too long: it becomes the name of files, and " +
@@ -109,11 +109,15 @@ void Monitorplatz::pruefe_verwechselbar() const {
 }
 
 void Monitorplatz::pruefe_Adresse() const {
-  const std::string& id = pult.FTPSpread.zelle(pult.FTPSpread.aktive_Zeile(), Registerspalte::ID);
-  if (id.find_first_of("@#?%") != std::string::npos)
-    throw Abbruch("The ID \"" + id +
-                  "\" holds @ # ? or %, so a download would ask the server for another file. Give "
-                  "the plant another ID, here and on the server.");
+  const auto pruefe = [](const std::string& was, const std::string& text, const char* rat) {
+    if (text.find_first_of("@#?%;") != std::string::npos)
+      throw Abbruch(was + " \"" + text +
+                    "\" holds @ # ? % or ;, so a download would ask the server for another file. " +
+                    rat);
+  };
+  pruefe("The ID", pult.FTPSpread.zelle(pult.FTPSpread.aktive_Zeile(), Registerspalte::ID),
+         "Give the plant another ID, here and on the server.");
+  pruefe("The account's folder", pult.ftp.FTP_Ordner, "Use another folder.");
 }
 
 void Monitorplatz::melde_unbekannte_Route() const {

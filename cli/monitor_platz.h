@@ -49,7 +49,8 @@ class Monitorplatz {
   /// Throws `Abbruch` if another plant's ID differs from the chosen one's by capitals only: their
   /// local copies would be one file.
   void pruefe_verwechselbar() const;
-  /// Throws `Abbruch` if the chosen plant's ID can't stand in an address.
+  /// Throws `Abbruch` if the chosen plant's ID or the account's folder can't stand in an
+  /// address.
   void pruefe_Adresse() const;
   /// Tells if the chosen plant's route is none that is known.
   void melde_unbekannte_Route() const;

@@ -40,7 +40,7 @@ class Verkehr {
     platz.waehle(monitor_id(wuensche.id));
     platz.pruefe_verwechselbar();
     pruefe_Konto();
-    if (einstellungen) platz.melde_unbekannte_Route();
+
     pult.fortschritt = &fortschritt_;
   }
   ~Verkehr() { pult.fortschritt = nullptr; }
@@ -163,6 +163,7 @@ void monitor_upload(Sitzung& sitzung, const Monitorwuensche& w) {
   Verkehr verkehr(sitzung, w);
   ftp_server& pult = verkehr.pult;
   if (verkehr.einstellungen) {
+    verkehr.platz.melde_unbekannte_Route();
     pult.Tab_Select(1);
     pult.set_upload();
     verkehr.nimm();

@@ -1,6 +1,8 @@
 #include "monitoring/register.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "monitoring/textzeilen.h"
@@ -11,6 +13,17 @@
 namespace polarkreis {
 
 namespace {
+
+/// Why there can be no register behind that path, though something is there: a link to nothing (a
+/// disk that is not there now), a pipe.
+std::string kein_Text(const std::string& pfad) {
+  namespace fs = std::filesystem;
+  std::error_code fehler;
+  const bool da = fs::exists(fs::symlink_status(pfad, fehler));
+  const fs::file_status ziel = fs::status(pfad, fehler);
+  if (!da || fs::is_regular_file(ziel) || fs::is_directory(ziel)) return {};
+  return fs::exists(ziel) ? "it is no file." : "it is a link to a file that is not there.";
+}
 
 std::size_t textzahl(std::string_view inhalt) {
   std::size_t anzahl = 0;
@@ -38,7 +51,7 @@ const std::string& Register::zelle(int zeile, int spalte) const {
   return innen(zeile, spalte) ? zellen_[ort(zeile, spalte)] : nichts;
 }
 
-// Foreign bytes would make the whole file be read as another character set.
+// A cell then reads alike before a save and after it.
 void Register::setze(int zeile, int spalte, std::string text) {
   if (innen(zeile, spalte)) zellen_[ort(zeile, spalte)] = Teil_als_utf8(std::move(text));
 }
@@ -72,6 +85,8 @@ bool Register::ist_leer(int zeile) const {
 // Only a file of exactly so many cells is taken as the program's own whole one.
 bool Register::lies(Ablage& ablage) {
   ueberzaehlig = 0;
+  hindernis = kein_Text(ablage.pfad(Datei));
+  if (!hindernis.empty()) return false;
   const std::optional<std::string> inhalt = ablage.lies_bytes(Datei, &hindernis);
   if (!inhalt || inhalt->empty()) return false;
   Textzeilen zeilen(*inhalt, textzahl(*inhalt) == zellen_.size());

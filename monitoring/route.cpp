@@ -44,7 +44,9 @@ int nummer(const Captions& captions, std::string_view text) {
   if (gesucht.empty()) return Route_alle;
   for (int n = 0; n < Route_alle; ++n)
     if (getrimmt(route(captions, n)) == gesucht) return n;
-  return heisst_keine(captions, gesucht) ? kKeine : Route_alle;
+  const bool keine =
+      gleich(captions.text(PedCap::Ohne), gesucht) || heisst_keine(captions, gesucht);
+  return keine ? kKeine : Route_alle;
 }
 
 }  // namespace

@@ -13,6 +13,11 @@ bool ist_Dateiname(std::string_view name) {
   return true;
 }
 
+/// False if it would end the server's part of an address, or begin another.
+bool ist_Host(std::string_view host) {
+  return host.find_first_of(" /\\@?#%\"") == std::string_view::npos;
+}
+
 }  // namespace
 
 void Uebertragung::setze_Konto(const Ftp_Konto& konto) {
@@ -60,6 +65,10 @@ Uebertragung::Ergebnis Uebertragung::Beginn(Ladeweg weg, const std::string& Date
     ergebnis.grund =
         "The ID is the name of a folder and of files: it can't be \".\" or \"..\" and can't hold "
         "\"/\", \"\\\" or control characters. Give the plant another one.";
+  else if (!ist_Host(FTP_Host))
+    ergebnis.grund =
+        "The account's host is no host name: enter a name or number, with \":port\" behind it at "
+        "the most.";
   return ergebnis;
 }
 

@@ -62,8 +62,8 @@ class Uebertragung {
   /// Makes the temporary folder, probes the plant's marker "<ID>_INS" on the server (without
   /// consequences), and moves the file between the temporary folder and the server. After a failed
   /// download the local copy of an earlier one, if there is one, is as it was. A name that is no
-  /// file name (it holds a path's separator), and a temporary folder that can't be made, end it
-  /// before anything is sent.
+  /// file name (it holds a path's separator), a host that is more than a host, and a temporary
+  /// folder that can't be made end it before anything is sent.
   Ergebnis Hoch_laden(Ladeweg weg, const std::string& Dateiname);
 
   /// Writes the local file, readable by its owner alone, and uploads it. What can't be written

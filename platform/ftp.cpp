@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "shell/platte.h"
+#include "shell/text.h"
 
 namespace polarkreis {
 
@@ -30,17 +31,20 @@ bool ist_Host(std::string_view host) {
 /// False if the address can be read in more than one way: the only "@" ends the login, the first
 /// ":" of that ends the user, and what ends the server's name must not stand before it. So no part
 /// of an account is ever taken for a server; a path with an "@" can't be told from a password with
-/// one and a "/".
+/// one and a "/". A "%" in the login would be read as the beginning of another character, and
+/// ";type=" as a command.
 bool ist_eindeutig(std::string_view adresse) {
   const std::size_t schema = adresse.find("://");
   if (schema == std::string_view::npos || hat_Steuerzeichen(adresse)) return false;
+  if (gross(adresse).find(";TYPE=") != std::string::npos) return false;
   const std::string_view stelle = adresse.substr(schema + 3);
   const std::string_view vorn = stelle.substr(0, stelle.find('/'));
   const std::string_view konto = vorn.substr(0, vorn.find('@'));
   if (konto.size() == vorn.size()) return stelle.find('@') == std::string_view::npos;
   return std::count(stelle.begin(), stelle.end(), '@') == 1 &&
          std::count(konto.begin(), konto.end(), ':') <= 1 &&
-         konto.find_first_of("#?") == std::string_view::npos;
+         konto.find_first_of("#?%") == std::string_view::npos &&
+         ist_Host(vorn.substr(konto.size() + 1));
 }
 
 /// True if the address names no file; the library would fetch the folder's listing instead.
@@ -106,11 +110,11 @@ bool ist_voll(long antwort) {
 }
 
 constexpr const char* kAdresse =
-    "The address can't be used. Check the server's name, and let user and password hold none of "
-    "the characters @ : / # ? %, and folder and ID no @.";
+    "The address can't be used. Check the server's name and port, and let user and password hold "
+    "none of the characters @ : / # ? %, and folder and ID none of @ # ? % ;.";
 constexpr const char* kHost =
-    "The server's name can't be used. Enter a host name or number, with \":port\" behind it at the "
-    "most.";
+    "The server's name can't be used. Enter a host name or number (of IPv6 in brackets), with "
+    "\":port\" behind it at the most.";
 constexpr const char* kAbgewiesen =
     "The server turns the connection away: it has too many, or is closing. Try again later.";
 constexpr const char* kSteuerzeichen =

@@ -9,8 +9,8 @@ namespace polarkreis {
 
 /// Keeps a folder for one program at a time, from the object's beginning to its end, so that no
 /// change is lost between reading a file and saving it. Only programs that ask for it wait for each
-/// other; on a file system that knows no such lock nobody does. It goes with the process, however
-/// that ends, and leaves nothing behind.
+/// other; on a file system that knows no such lock, and in a folder that can't be read, nobody
+/// does. It goes with the process, however that ends, and leaves nothing behind.
 class Ordnersperre {
  public:
   /// Waits while another program has the folder; `warten` is called once before that.

@@ -20,7 +20,7 @@ std::optional<std::string> Ablage::lies_bytes(std::string_view name, std::string
   if (hindernis != nullptr)
     *hindernis = fehler == 0 || fehler == ENOENT ? std::string() : platte::grund(fehler);
   if (fehler == 0) return bytes;
-  if (fehler != ENOENT) meldungen_.melde("read", wo, "taken as absent: " + platte::grund(fehler));
+  if (fehler != ENOENT) meldungen_.melde("read", wo, "can't be read: " + platte::grund(fehler));
   return std::nullopt;
 }
 

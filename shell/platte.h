@@ -46,7 +46,8 @@ int haenge_satz_an(const std::string& pfad, std::string_view satz, bool sicher);
 int loesche(const std::string& pfad);
 /// Makes the folder and those above it.
 int mache_ordner(const std::string& ordner);
-/// The same, and the folder itself is open to its owner alone, also where it was there.
+/// The same, and the folder itself is open to its owner alone, also where it was there, unless it
+/// belongs to somebody else.
 int mache_privaten_ordner(const std::string& ordner);
 
 /// The spelling under which `name` stands in the folder: the exact one, else the first of another

@@ -87,7 +87,7 @@ TEST_F(Monitor, AForeignIDWithASlashCanBeShownButNotMade) {
   r(3, 1) = "a/b";
   r.schreib(daten);
   EXPECT_EQ(json_von({"show", "a/b"})["row"], 3);
-  for (const char* id : {"c/d", "c\\d", ".", "..", "c@d", "c#d", "c?d", "50%"}) {
+  for (const char* id : {"c/d", "c\\d", ".", "..", "c@d", "c;d", "c#d", "c?d", "50%"}) {
     const Antwort a = rufe({"set", id, "nm=x"});
     EXPECT_EQ(a.status, 1) << id;
     EXPECT_TRUE(enthaelt(a.fehler, "name of a folder")) << a.fehler;
@@ -317,6 +317,8 @@ TEST_F(Monitor, ARouteOfTheRegisterThatIsNoneIsTold) {
   r.schreib(daten);
   EXPECT_TRUE(enthaelt(rufe({"show", "K17"}).fehler, "\"carrier pigeon\" is no route"));
   EXPECT_EQ(json_von({"show", "K17"})["nt_number"], 15);
+  EXPECT_EQ(rufe({"set", "K9", "nt=0"}).fehler, "");
+  EXPECT_FALSE(enthaelt(rufe({"set", "K17", "nt=0"}).fehler, "no route"));
   EXPECT_EQ(rufe({"show", "K9"}).fehler, "");
   EXPECT_EQ(json_von({"show", "K9"})["nt_number"], 0);
 }

@@ -298,13 +298,17 @@ TEST_F(MonitorTransfer, AnAccountThatOthersCanReadIsTold) {
 
 TEST_F(MonitorTransfer, AnIDThatBreaksAnAddressIsNotDownloaded) {
   konto("127.0.0.1:1");
-  for (const char* id : {"K%41", "K#1", "K?", "K@h"}) {
+  for (const char* id : {"K%41", "K#1", "K?", "K@h", "K;type=d"}) {
     r(1, 1) = id;
     r.schreib(daten);
     const Antwort a = rufe({"download", id, "settings"});
     EXPECT_EQ(a.status, 1);
     EXPECT_TRUE(enthaelt(a.fehler, "another file")) << a.fehler;
   }
+  r(1, 1) = "K17";
+  r.schreib(daten);
+  daten.schreib("ftp_default.ini", "\"\"\n\"127.0.0.1:1\"\n\"u\"\n\"p\"\n\"html/mo%41n\"\n");
+  EXPECT_TRUE(enthaelt(rufe({"download", "K17"}).fehler, "The account's folder"));
 }
 
 TEST_F(MonitorTransfer, PlantsThatDifferByCapitalsOnlyAreNotTransferred) {

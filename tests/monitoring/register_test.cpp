@@ -217,6 +217,31 @@ TEST_F(RegisterTest, FileThatCantBeReadIsNotReplaced) {
   EXPECT_TRUE(reg.schreib(ablage));
 }
 
+TEST_F(RegisterTest, LinkToNothingIsNoEmptyRegister) {
+  std::filesystem::create_symlink(ordner.pfad("elsewhere"), ordner.pfad(Register::Datei));
+  EXPECT_FALSE(reg.lies(ablage));
+  EXPECT_NE(reg.hindernis.find("link"), std::string::npos) << reg.hindernis;
+  EXPECT_FALSE(reg.schreib(ablage));
+  EXPECT_FALSE(ordner.da("elsewhere"));
+  std::filesystem::remove(ordner.pfad(Register::Datei));
+  ASSERT_EQ(::mkfifo(ordner.pfad(Register::Datei).c_str(), 0600), 0);
+  EXPECT_FALSE(reg.lies(ablage));
+  EXPECT_NE(reg.hindernis, "");
+  EXPECT_FALSE(reg.schreib(ablage));
+}
+
+TEST_F(RegisterTest, RegisterMayStandBehindALink) {
+  schreib_gezaehlt(3);
+  std::filesystem::rename(ordner.pfad(Register::Datei), ordner.pfad("elsewhere"));
+  std::filesystem::create_symlink("elsewhere", ordner.pfad(Register::Datei));
+  EXPECT_TRUE(reg.lies(ablage));
+  EXPECT_EQ(reg.zelle(1, 3), "3");
+  EXPECT_TRUE(reg.schreib(ablage));
+  EXPECT_TRUE(std::filesystem::is_symlink(ordner.pfad(Register::Datei)));
+  EXPECT_EQ(std::filesystem::status(ordner.pfad("elsewhere")).permissions(),
+            std::filesystem::perms(0600));
+}
+
 TEST_F(RegisterTest, FirstRowCountsWhereNoneIsChosen) {
   EXPECT_EQ(reg.aktive_Zeile(), 1);
   for (const int zeile : {0, -1, 101}) {

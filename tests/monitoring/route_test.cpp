@@ -75,6 +75,8 @@ TEST(FlagFind, WordForNoneCountsInEachLanguage) {
   const Texte deutsch("GER"), englisch("ENG");
   EXPECT_EQ(Flag_find(deutsch.captions, "none", 1), "0");
   EXPECT_EQ(Flag_find(englisch.captions, " ohne ", 1), "0");
+  EXPECT_EQ(Flag_find(englisch.captions, "None", 1), "0");
+  EXPECT_EQ(Flag_find(englisch.captions, "OHNE", 1), "0");
   EXPECT_EQ(Flag_find(englisch.captions, "keine", 1), "15");
   EXPECT_EQ(Flag_find(englisch.captions, "hoch", 1), "15");
 }

@@ -237,6 +237,17 @@ TEST_F(UebertragungTest, TemporaryFolderThatIsNoneIsAFailure) {
   EXPECT_EQ(ordner.lies("FMD_Temp"), "a file");
 }
 
+TEST_F(UebertragungTest, HostThatIsMoreThanAHostIsRefusedBeforeAnythingIsSent) {
+  for (const char* host : {"127.0.0.1/x:2121", "127.0.0.1?", "ftp://ftp.example", "a@b", "a b"}) {
+    ftp->FTP_Host = host;
+    for (const Uebertragung::Ergebnis& e : {hoch("K17SETTINGS"), herunter("K17SETTINGS")}) {
+      EXPECT_FALSE(e.gut);
+      EXPECT_NE(e.grund.find("no host name"), std::string::npos) << e.grund;
+    }
+  }
+  EXPECT_EQ(klient.rufe, Zeilen{});
+}
+
 TEST_F(UebertragungTest, NoReasonAndNoMessageHoldsTheAccount) {
   klient.ohne_Verbindung = true;
   Zeilen gruende = {hoch("K17SETTINGS").grund, herunter("K17SETTINGS").grund, hoch("a/b").grund};
