@@ -55,7 +55,7 @@ class Verkehr {
   /// Takes the results of the button that was pressed last.
   void nimm() {
     for (const Uebertragung::Ergebnis& e : pult.Ergebnisse) {
-      const bool kopie = !e.gut && !pult.ftp.Kopie(e.Dateiname).value_or("").empty();
+      const bool kopie = !e.gut && pult.ftp.Kopie(e.Dateiname).has_value();
       dateien.push_back(
           {e, e.gut ? Herkunft::Server : (kopie ? Herkunft::Kopie : Herkunft::Register)});
     }

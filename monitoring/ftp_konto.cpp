@@ -1,5 +1,7 @@
 #include "monitoring/ftp_konto.h"
 
+#include <algorithm>
+
 #include "shell/items.h"
 #include "shell/text.h"
 
@@ -14,6 +16,12 @@ std::string_view ohne_Schraegstriche(std::string_view ordner) {
 }
 
 }  // namespace
+
+bool ist_Host(std::string_view host) {
+  const auto ist_Steuerzeichen = [](unsigned char c) { return c < ' ' || c == '\x7F'; };
+  return !host.empty() && host.find_first_of(" /\\@?#%\"") == std::string_view::npos &&
+         std::none_of(host.begin(), host.end(), ist_Steuerzeichen);
+}
 
 Ftp_Konto Standardkonto_lesen(Ablage& ablage) {
   Ftp_Konto konto;

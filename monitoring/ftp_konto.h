@@ -18,6 +18,10 @@ struct Ftp_Konto {
       hindernis{};  ///< why the account's file can't be read; empty if it can, or isn't there
 };
 
+/// True if the text can be mistaken for nothing but a server: a name or a number, with ":port" or
+/// without.
+bool ist_Host(std::string_view host);
+
 /// The operator's file with the default account in the data folder: five quoted items, one a line,
 /// in the order of `Ftp_Konto`.
 inline constexpr std::string_view Kontodatei = "ftp_default.ini";

@@ -13,11 +13,6 @@ bool ist_Dateiname(std::string_view name) {
   return true;
 }
 
-/// False if it would end the server's part of an address, or begin another.
-bool ist_Host(std::string_view host) {
-  return host.find_first_of(" /\\@?#%\"") == std::string_view::npos;
-}
-
 }  // namespace
 
 void Uebertragung::setze_Konto(const Ftp_Konto& konto) {
@@ -65,7 +60,7 @@ Uebertragung::Ergebnis Uebertragung::Beginn(Ladeweg weg, const std::string& Date
     ergebnis.grund =
         "The ID is the name of a folder and of files: it can't be \".\" or \"..\" and can't hold "
         "\"/\", \"\\\" or control characters. Give the plant another one.";
-  else if (!ist_Host(FTP_Host))
+  else if (!FTP_Host.empty() && !ist_Host(FTP_Host))
     ergebnis.grund =
         "The account's host is no host name: enter a name or number, with \":port\" behind it at "
         "the most.";

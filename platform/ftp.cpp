@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "monitoring/ftp_konto.h"
 #include "shell/platte.h"
 #include "shell/text.h"
 
@@ -20,12 +21,6 @@ constexpr int kBlick_ms = 20;
 bool hat_Steuerzeichen(std::string_view text) {
   return std::any_of(text.begin(), text.end(),
                      [](unsigned char c) { return c < ' ' || c == '\x7F'; });
-}
-
-/// A host, with a port or without, that can't be mistaken for more of an address than that.
-bool ist_Host(std::string_view host) {
-  return !host.empty() && !hat_Steuerzeichen(host) &&
-         host.find_first_of(" /\\@?#%\"") == std::string_view::npos;
 }
 
 /// False if the address can be read in more than one way: the only "@" ends the login, the first
